@@ -1,0 +1,39 @@
+# Compiler settings and helper functions that every target of the project shares.
+
+add_library(quorvex_options INTERFACE)
+target_include_directories(quorvex_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
+target_compile_options(quorvex_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_compile_definitions(quorvex_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_STRICT_ITERATORS
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+if(QUORVEX_SANITIZE)
+    target_compile_options(quorvex_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+        -fno-omit-frame-pointer -O1)
+    target_link_options(quorvex_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# quorvex_add_library(NAME FOLDER...): a static library of all sources below the folders.
+function(quorvex_add_library name)
+    set(sources)
+    foreach(folder IN LISTS ARGN)
+        file(GLOB_RECURSE found CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp"
+            "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h")
+        list(APPEND sources ${found})
+    endforeach()
+    add_library(${name} STATIC ${sources})
+    target_link_libraries(${name} PUBLIC quorvex_options)
+endfunction()
+
+# quorvex_add_test(NAME SOURCE... LIBRARIES ...): a Qt Test executable registered with ctest. Window tests run on
+# the offscreen platform with a 1024 x 768 screen, whatever display the person at the machine has.
+function(quorvex_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LIBRARIES")
+    add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
+    target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
+    target_compile_definitions(${name} PRIVATE QUORVEX_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data")
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} Qt6::Test)
+    set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 120 ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen:configfile=${CMAKE_SOURCE_DIR}/tests/support/screen1024.json;QT_QPA_PLATFORMTHEME=;SDL_AUDIODRIVER=dummy;QUORVEX_INSTALL=${CMAKE_BINARY_DIR}/install")
+endfunction()

@@ -1,0 +1,14 @@
+#include "platform/Services.h"
+
+#include "platform/Clock.h"
+#include "platform/ProgramLauncher.h"
+#include "platform/SoundPlayer.h"
+
+Services &PlatformServices()
+{
+    static SystemClock clock;
+    static SilentPlayer sound;
+    static SystemProgramLauncher launcher;
+    static Services services{&clock, &sound, &launcher, std::mt19937{}};
+    return services;
+}

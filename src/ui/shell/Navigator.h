@@ -1,0 +1,24 @@
+#pragma once
+
+class QWidget;
+
+/// The drills among which the tab strip and the switch buttons lead.
+enum class DrillKind { KeyJunior, KeySenior, Word, Article, Numpad };
+
+/// Makes and shows the program's windows. Windows know only this, never one another.
+class Navigator
+{
+public:
+    virtual ~Navigator() = default;
+
+    /// Opens a drill over the main window. False, and a message has been shown, when there is no such drill.
+    virtual bool OpenDrill(DrillKind kind) = 0;
+    virtual bool OpenSpeedTest() = 0;
+    virtual bool OpenPersonalRecords() = 0;
+    /// Brings the main window to the front.
+    virtual void ShowMainMenu() = 0;
+    /// Minimises the main window and, with it, every window that it owns.
+    virtual void MinimizeAll() = 0;
+    /// Opens the help at the page called `page`.
+    virtual void ShowHelp(QWidget *from) = 0;
+};

@@ -11,14 +11,16 @@ class Navigator
 public:
     virtual ~Navigator() = default;
 
-    /// Opens a drill over the main window. False, and a message has been shown, when there is no such drill.
-    virtual bool OpenDrill(DrillKind kind) = 0;
+    /// Whether the drill exists yet; when not, a message says so.
+    virtual bool CanOpenDrill(DrillKind kind) = 0;
+    /// Opens a drill over the main window and closes `instead`, if any, once the new one is shown.
+    virtual void OpenDrill(DrillKind kind, QWidget *instead = nullptr) = 0;
     virtual bool OpenSpeedTest() = 0;
     virtual bool OpenPersonalRecords() = 0;
     /// Brings the main window to the front.
     virtual void ShowMainMenu() = 0;
     /// Minimises the main window and, with it, every window that it owns.
     virtual void MinimizeAll() = 0;
-    /// Opens the help at the page called `page`.
+    /// Opens the help at the page of the window `from`, which is called like its `objectName`.
     virtual void ShowHelp(QWidget *from) = 0;
 };

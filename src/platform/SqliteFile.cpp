@@ -1,0 +1,71 @@
+#include "platform/SqliteFile.h"
+
+#include <QFileInfo>
+#include <sqlite3.h>
+
+void SqliteFile::Closer::operator()(sqlite3 *database) const
+{
+    sqlite3_close_v2(database);
+}
+
+SqliteFile::SqliteFile(const QString &nativePath)
+{
+    // SQLite takes an empty name for a temporary database, and a folder for an error worth a log line.
+    if (!QFileInfo(nativePath).isFile())
+        return;
+    sqlite3 *database = nullptr;
+    const int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX;
+    const int result = sqlite3_open_v2(nativePath.toUtf8().constData(), &database, flags, nullptr);
+    m_database.reset(database);
+    if (result != SQLITE_OK)
+        m_database.reset();
+}
+
+bool SqliteFile::Query(const char *sql, const QVariantList &values,
+                       const std::function<bool(const Row &)> &onRow) const
+{
+    if (!m_database)
+        return false;
+    sqlite3_stmt *statement = nullptr;
+    if (sqlite3_prepare_v2(m_database.get(), sql, -1, &statement, nullptr) != SQLITE_OK)
+        return false;
+    const std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt *)> owner(statement, sqlite3_finalize);
+
+    int index = 1;
+    for (const QVariant &value : values) {
+        if (value.typeId() == QMetaType::QString) {
+            const QByteArray text = value.toString().toUtf8();
+            sqlite3_bind_text(statement, index, text.constData(), static_cast<int>(text.size()),
+                              SQLITE_TRANSIENT);
+        } else {
+            sqlite3_bind_int64(statement, index, value.toLongLong());
+        }
+        ++index;
+    }
+    for (;;) {
+        const int step = sqlite3_step(statement);
+        if (step == SQLITE_DONE)
+            return true;
+        if (step != SQLITE_ROW)
+            return false;
+        if (!onRow(Row(statement)))
+            return true;
+    }
+}
+
+QByteArray SqliteFile::Row::Bytes(int column) const
+{
+    auto *statement = static_cast<sqlite3_stmt *>(m_statement);
+    const void *bytes = sqlite3_column_blob(statement, column);
+    return QByteArray(static_cast<const char *>(bytes), sqlite3_column_bytes(statement, column));
+}
+
+QString SqliteFile::Row::Text(int column) const
+{
+    return QString::fromUtf8(Bytes(column));
+}
+
+qint64 SqliteFile::Row::Integer(int column) const
+{
+    return sqlite3_column_int64(static_cast<sqlite3_stmt *>(m_statement), column);
+}

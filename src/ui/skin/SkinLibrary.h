@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/SqliteFile.h"
+
+#include <QColor>
+#include <QPixmap>
+#include <optional>
+
+/// The pictures that every window is painted from, found by their exact names in `Bitmap\1024_CH.DLL` below
+/// `InstallDir`. Make one where you paint, take what you need, let it go: the file is opened only when a
+/// picture is not in the pixmap cache, whose keys hold the file's time stamp and size, so that a replaced
+/// skin shows at once.
+class SkinLibrary
+{
+public:
+    SkinLibrary();
+
+    /// The picture for a window of that device pixel ratio (its own ratio is set, so its logical size does
+    /// not depend on it). Null when the library or the picture is missing or damaged: paint plain colours
+    /// then.
+    QPixmap Bitmap(const QString &name, qreal devicePixelRatio) const;
+
+    /// The picture's size in logical pixels, empty when there is none.
+    QSize BitmapSize(const QString &name) const;
+
+    /// A colour of the theme, or `fallback`.
+    QColor Color(const QString &key, const QColor &fallback) const;
+
+    /// False when the library is missing or cannot be read.
+    bool IsUsable() const;
+
+private:
+    const SqliteFile &File() const;
+
+    QString m_path;
+    QString m_keyPrefix;
+    mutable std::optional<SqliteFile> m_file;
+};

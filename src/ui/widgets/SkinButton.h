@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QColor>
+#include <QPixmap>
+
+class SkinLibrary;
+
+/// A button whose looks are the frames of one picture, side by side: normal, hovered, pressed, disabled and,
+/// where the strip has a fifth, focused. Without a picture it is a plain button with its accessible name on
+/// it. It takes the size of one frame. Space, Enter and Return press it.
+class SkinButton : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    explicit SkinButton(const QString &objectName, const QString &accessibleName, QWidget *parent);
+
+    void SetButton(const QString &bitmap, const SkinLibrary &library, int frames = 4);
+
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void MouseEntered();
+    void MouseLeft();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+
+private:
+    QString m_bitmap;
+    QSize m_frameSize;
+    QColor m_focusColor;
+    int m_frames = 4;
+};

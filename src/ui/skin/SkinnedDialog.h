@@ -1,14 +1,14 @@
 #pragma once
 
 #include <QDialog>
-#include <QPixmap>
 
+class QPainter;
 class SkinButton;
 class TitleBar;
 
 /// A frameless dialog with the skin's title bar, edges and colours. A dialog makes its controls, sets its
-/// size and calls `SkinDialog`, which centres it on the screen and paints the frame. Escape, Alt+F4 and the
-/// title bar's close button close it as `reject()` does.
+/// size and calls `SkinDialog`, which centres it on the screen and gives it its frame. Escape, Alt+F4 and the
+/// title bar's close button close it as `reject()` does; Enter presses the default button.
 class SkinnedDialog : public QDialog
 {
     Q_OBJECT
@@ -16,14 +16,16 @@ class SkinnedDialog : public QDialog
 public:
     explicit SkinnedDialog(QWidget *owner);
 
-    /// Height of the title bar, 0 before `SkinDialog`.
-    int TitleHeight() const { return m_titleHeight; }
+    /// Height of the title bar, where the dialog's own content begins.
+    int TitleHeight() const;
 
 protected:
     void SkinDialog(const QString &title);
-    /// Layout 1: `ok` alone at the right; any other: `ok` and `cancel` with three equal gaps. Tops are the
-    /// dialog's.
+    /// Layout 1: `ok` alone at the right; any other: `ok` and `cancel` with three equal gaps. The tops are
+    /// the dialog's.
     void SkinOkCancel(SkinButton *ok, SkinButton *cancel, int layout);
+    /// The button that Enter presses unless another button has the focus.
+    void SetDefaultButton(SkinButton *button) { m_defaultButton = button; }
 
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -32,8 +34,7 @@ protected:
     TitleBar *ImgTitleBar;
 
 private:
-    void PaintFrame(class QPainter &painter) const;
+    void PaintFrame(QPainter &painter) const;
 
-    QString m_title;
-    int m_titleHeight = 0;
+    SkinButton *m_defaultButton = nullptr;
 };

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QFont>
 #include <QString>
+#include <QtGlobal>
 
 class QLabel;
 class QPainter;
+class QPoint;
 class ProgressBox;
 
 /// The status items that every drill and test shows in the same form, the window titles, and the font sizes.
@@ -21,11 +22,6 @@ void ShowProgress(ProgressBox *box, int percent);
 
 /// Fills `FontSizeTable` for the screen's logical dots per inch, so that the texts keep their size in pixels.
 void InitFontSizes(qreal dotsPerInch);
-
-/// The interface font in a size of points at 96 dots per inch, whatever the screen's.
-QFont InterfaceFont(qreal points, bool bold = false);
-/// The same in a size that is already scaled, as the entries of `FontSizeTable` are.
-QFont DisplayFont(int scaledPoints, bool bold = false);
 
 /// Prints one line of text whose top left corner is at `position`, in the painter's font and pen.
 void PrintScaledText(QPainter &painter, const QPoint &position, const QString &text);

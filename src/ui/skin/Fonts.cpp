@@ -1,0 +1,44 @@
+#include "ui/skin/Fonts.h"
+
+#include "core/shell/Public_Define.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QScreen>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QFont FontOfPixels(qreal pixels, bool bold)
+{
+    // Liberation Sans has Arial's metrics; the others stand in for the characters that it lacks.
+    QFont font({u"Liberation Sans"_s, u"Arial"_s, u"WenQuanYi Micro Hei"_s, u"DejaVu Sans"_s});
+    font.setPixelSize(qMax(1, qRound(pixels)));
+    font.setBold(bold);
+    return font;
+}
+
+} // namespace
+
+void Public_Function::LoadFonts()
+{
+    for (const auto suffix : {"ttf"_L1, "ttc"_L1}) {
+        for (const QString &file : ListFiles(Shared().InstallDir + u"Fonts\\"_s, suffix))
+            QFontDatabase::addApplicationFont(NativePath(file));
+    }
+    QGuiApplication::setFont(InterfaceFont(9));
+}
+
+QFont Public_Function::InterfaceFont(qreal points, bool bold)
+{
+    return FontOfPixels(points * 96 / 72, bold);
+}
+
+QFont Public_Function::DisplayFont(int scaledPoints, bool bold)
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return FontOfPixels(scaledPoints * (screen ? screen->logicalDotsPerInch() : 96) / 72, bold);
+}

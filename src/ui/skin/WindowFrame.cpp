@@ -1,0 +1,109 @@
+#include "ui/skin/WindowFrame.h"
+
+#include "core/shell/Public_Define.h"
+#include "ui/skin/SkinLibrary.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWindow>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct ModulePictures
+{
+    QLatin1StringView label;
+    QLatin1StringView background;
+};
+
+constexpr std::array<ModulePictures, 24> Modules{{
+    {"EN_LABEL_KEY_B"_L1, "EN_KEY_BACK_B"_L1},
+    {"EN_LABEL_KEY_E"_L1, "EN_KEY_BACK_E"_L1},
+    {"EN_LABEL_WORD"_L1, "EN_WORD_BACK"_L1},
+    {"EN_LABEL_ARTICLE"_L1, "TEST_DANHANG_BACK"_L1},
+    {"EN_LABEL_ARTICLE"_L1, "TEST_DUIZHAO_BACK"_L1},
+    {"EN_LABEL_ARTICLE"_L1, "TEST_FUGAI_BACK"_L1},
+    {"PINYIN_LABEL_YINJIE"_L1, "PINYIN_YINJIE_BACK"_L1},
+    {"PINYIN_LABEL_CIHUI"_L1, "TEST_DANHANG_BACK"_L1},
+    {"PINYIN_LABEL_WENZHANG"_L1, "TEST_DANHANG_BACK"_L1},
+    {"PINYIN_LABEL_WENZHANG"_L1, "TEST_DUIZHAO_BACK"_L1},
+    {"PINYIN_LABEL_WENZHANG"_L1, "TEST_FUGAI_BACK"_L1},
+    {"WUBI_LABEL_ZIGEN"_L1, "EN_KEY_BACK_E"_L1},
+    {"WUBI_LABEL_DANZI"_L1, "EN_KEY_BACK_E"_L1},
+    {"WUBI_LABEL_CIZU"_L1, "EN_KEY_BACK_E"_L1},
+    {"WUBI_LABEL_WENZHANG"_L1, "TEST_DANHANG_BACK"_L1},
+    {"WUBI_LABEL_WENZHANG"_L1, "TEST_DUIZHAO_BACK"_L1},
+    {"WUBI_LABEL_WENZHANG"_L1, "TEST_FUGAI_BACK"_L1},
+    {"TEST_LABEL_NEIBU"_L1, "TEST_DANHANG_BACK"_L1},
+    {"TEST_LABEL_NEIBU"_L1, "TEST_DUIZHAO_BACK"_L1},
+    {"TEST_LABEL_NEIBU"_L1, "TEST_FUGAI_BACK"_L1},
+    {"TEST_LABEL_WAIBU"_L1, "TEST_FUGAI_BACK"_L1},
+    {"TEST_LABEL_TINGDA"_L1, "TEST_DANHANG_BACK"_L1},
+    {"TEST_LABEL_TINGDA"_L1, "TEST_DUIZHAO_BACK"_L1},
+    {"TEST_LABEL_TINGDA"_L1, "TEST_FUGAI_BACK"_L1},
+}};
+
+void DrawFrame(QPainter &painter, const QRect &rect, const QColor &color)
+{
+    // Filled, not stroked: a pen is antialiased and doubled differently at each device pixel ratio.
+    painter.fillRect(rect.left(), rect.top(), rect.width(), 1, color);
+    painter.fillRect(rect.left(), rect.bottom(), rect.width(), 1, color);
+    painter.fillRect(rect.left(), rect.top(), 1, rect.height(), color);
+    painter.fillRect(rect.right(), rect.top(), 1, rect.height(), color);
+}
+
+} // namespace
+
+int Public_Function::ScreenMode()
+{
+    return Shared().LayoutWidth() < 1023 ? 1 : 2;
+}
+
+void Public_Function::CoverScreen(QWidget *window)
+{
+    // The geometry serves where there is no window manager, full screen where there is one.
+    window->setGeometry(Shared().ScreenRect);
+    window->showFullScreen();
+}
+
+void Public_Function::DrawWindowEdge(QPainter &painter, const QSize &window)
+{
+    const QRect outer(QPoint(0, 0), window);
+    DrawFrame(painter, outer, QColor(141, 148, 167));
+    DrawFrame(painter, outer.adjusted(1, 1, -1, -1), QColor(211, 214, 224));
+}
+
+void Public_Function::TileMainGround(QPainter &painter, const QRect &rect, const SkinLibrary &library)
+{
+    const QPixmap tile = library.Bitmap(u"MAIN_BG"_s, painter.device()->devicePixelRatioF());
+    if (tile.isNull())
+        painter.fillRect(rect, PlainGround);
+    else
+        painter.drawTiledPixmap(rect, tile, rect.topLeft());
+}
+
+void Public_Function::PaintDrillWindow(int kind, QPainter &painter, const QRect &exposed,
+                                       const QList<QPoint> &positions)
+{
+    const SkinLibrary library;
+    TileMainGround(painter, exposed, library);
+    if (kind < 0 || kind >= static_cast<int>(Modules.size()) || positions.size() < 6)
+        return;
+    const ModulePictures &module = Modules[static_cast<std::size_t>(kind)];
+    const std::array<QLatin1StringView, 6> pictures{module.label,    module.background,  "ICON_TIME"_L1,
+                                                    "ICON_SPEED"_L1, "ICON_SCHEDULE"_L1, "ICON_VERACITY"_L1};
+    for (qsizetype i = 0; i < 6; ++i) {
+        const QString name = pictures[static_cast<std::size_t>(i)];
+        const QRect place(positions[i], library.BitmapSize(name));
+        if (place.intersects(exposed))
+            painter.drawPixmap(positions[i], library.Bitmap(name, painter.device()->devicePixelRatioF()));
+    }
+}
+
+bool Public_Function::IsCloseKey(const QKeyEvent *event)
+{
+    return event->key() == Qt::Key_F4 && event->modifiers().testFlag(Qt::AltModifier);
+}

@@ -1,0 +1,101 @@
+#include "ui/widgets/SkinButton.h"
+
+#include "ui/skin/Fonts.h"
+#include "ui/skin/SkinLibrary.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QSize PlainSize(100, 30);
+
+enum Frame { Normal = 0, Hovered = 1, Pressed = 2, Disabled = 3, Focused = 4 };
+
+} // namespace
+
+SkinButton::SkinButton(const QString &objectName, const QString &accessibleName, QWidget *parent)
+    : QAbstractButton(parent)
+    , m_frameSize(PlainSize)
+{
+    setObjectName(objectName);
+    setAccessibleName(accessibleName);
+    setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::StrongFocus);
+    resize(m_frameSize);
+}
+
+void SkinButton::SetButton(const QString &bitmap, const SkinLibrary &library, int frames)
+{
+    m_bitmap = bitmap;
+    m_frames = qMax(1, frames);
+    const QSize strip = library.BitmapSize(bitmap);
+    m_frameSize = strip.isEmpty() ? PlainSize : QSize(strip.width() / m_frames, strip.height());
+    m_focusColor = library.Color(u"focus"_s, QColor(255, 164, 84));
+    resize(m_frameSize);
+    update();
+}
+
+QSize SkinButton::sizeHint() const
+{
+    return m_frameSize;
+}
+
+void SkinButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    int frame = Normal;
+    if (!isEnabled())
+        frame = Disabled;
+    else if (isDown())
+        frame = Pressed;
+    else if (underMouse())
+        frame = Hovered;
+    else if (hasFocus() && m_frames > Focused)
+        frame = Focused;
+
+    const qreal ratio = devicePixelRatioF();
+    const QPixmap strip = SkinLibrary().Bitmap(m_bitmap, ratio);
+    if (strip.isNull()) {
+        painter.fillRect(rect(), frame == Pressed ? QColor(190, 195, 206) : QColor(226, 229, 236));
+        painter.setPen(isEnabled() ? QColor(60, 70, 90) : QColor(150, 155, 165));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.setFont(Public_Function::InterfaceFont(9));
+        painter.drawText(rect(), Qt::AlignCenter, accessibleName());
+    } else {
+        const qreal frameWidth = strip.width() / static_cast<qreal>(m_frames);
+        painter.drawPixmap(QRectF(QPointF(0, 0), QSizeF(m_frameSize)), strip,
+                           QRectF(qMin(frame, m_frames - 1) * frameWidth, 0, frameWidth, strip.height()));
+    }
+    // A strip of five frames brings its own focus look; it is not shown while the button is hovered or
+    // pressed.
+    if (hasFocus() && frame != Focused) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(m_focusColor, 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    }
+}
+
+void SkinButton::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && !event->isAutoRepeat())
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void SkinButton::enterEvent(QEnterEvent *event)
+{
+    Q_EMIT MouseEntered();
+    QAbstractButton::enterEvent(event);
+}
+
+void SkinButton::leaveEvent(QEvent *event)
+{
+    Q_EMIT MouseLeft();
+    QAbstractButton::leaveEvent(event);
+}

@@ -1,0 +1,7 @@
+#include "platform/WriteFault.h"
+
+std::optional<WriteFault> &CurrentWriteFault()
+{
+    static std::optional<WriteFault> fault;
+    return fault;
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "core/shell/Public_Define.h"
+#include "platform/Paths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+/// An install folder of its own for a test, on the disk as long as the object lives; the shared values point
+/// to it and have their defaults besides.
+class TestInstall
+{
+public:
+    explicit TestInstall(const QString &user = QString())
+    {
+        Shared() = Public_Define();
+        Shared().InstallDir = Public_Function::ProductPath(m_folder.path()) + u'\\';
+        Shared().CurrentUserName = user;
+        if (!user.isEmpty())
+            MakeFolder(QStringLiteral("Users/") + user);
+    }
+    ~TestInstall() { Shared() = Public_Define(); }
+    Q_DISABLE_COPY_MOVE(TestInstall)
+
+    /// Native path of something in the install folder.
+    QString Native(const QString &relative) const { return m_folder.filePath(relative); }
+
+    void MakeFolder(const QString &relative) const { QDir(m_folder.path()).mkpath(relative); }
+
+    /// Writes a file, and its folder where it is missing.
+    void Write(const QString &relative, const QByteArray &bytes) const
+    {
+        MakeFolder(QFileInfo(relative).path());
+        QFile file(Native(relative));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+    }
+
+    /// The bytes of a file; a null array when there is none.
+    QByteArray Read(const QString &relative) const
+    {
+        QFile file(Native(relative));
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        const QByteArray bytes = file.readAll();
+        return bytes.isNull() ? QByteArray("") : bytes;
+    }
+
+    /// Names of everything in a folder, sorted.
+    QStringList Entries(const QString &relative) const
+    {
+        return QDir(Native(relative))
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+private:
+    QTemporaryDir m_folder;
+};

@@ -30,7 +30,7 @@ run_on_vnc() {
     folder=$(mktemp -d) || die "Cannot make a temporary folder."
     children=()
     # shellcheck disable=SC2064 # the folder of now
-    trap "kill \"\${children[@]}\" 2>/dev/null; rm -rf '$folder'" EXIT
+    trap "kill \"\${children[@]}\" 2>/dev/null; wait; rm -rf '$folder'" EXIT
     trap 'exit 130' INT
     trap 'exit 143' TERM HUP
     while ! port_is_free "$port"; do port=$((port + 1)); done

@@ -1,0 +1,58 @@
+#include "ui/shell/DlgHelp.h"
+
+#include "ui/skin/Fonts.h"
+
+#include <QListWidget>
+#include <QScreen>
+#include <QTextBrowser>
+#include <QUrl>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int HelpMargin = 14;
+constexpr int ContentsWidth = 200;
+
+} // namespace
+
+DlgHelp::DlgHelp(const HelpBook &book, const QString &pageName, QWidget *owner)
+    : SkinnedDialog(owner)
+    , m_book(book)
+    , m_contents(new QListWidget(this))
+    , m_page(new QTextBrowser(this))
+{
+    setObjectName(u"DlgHelp"_s);
+    const QSize available = screen()->geometry().size();
+    resize(qMin(860, available.width() - 60), qMin(620, available.height() - 60));
+
+    const int top = TitleHeight() + HelpMargin;
+    const int contentHeight = height() - top - HelpMargin;
+    m_contents->setGeometry(HelpMargin, top, ContentsWidth, contentHeight);
+    m_contents->setObjectName(u"lstHelpPages"_s);
+    m_contents->setAccessibleName(tr("Help pages"));
+    m_contents->setFont(Public_Function::InterfaceFont(10));
+    const int pageLeft = HelpMargin + ContentsWidth + 10;
+    m_page->setGeometry(pageLeft, top, width() - pageLeft - HelpMargin, contentHeight);
+    m_page->setObjectName(u"txtHelpPage"_s);
+    m_page->setAccessibleName(tr("Help page"));
+    m_page->setFont(Public_Function::InterfaceFont(11));
+    m_page->setOpenLinks(false);
+    m_page->document()->setDocumentMargin(14);
+
+    for (const HelpBook::Page &page : m_book.Pages())
+        m_contents->addItem(page.title);
+    connect(m_contents, &QListWidget::currentRowChanged, this, &DlgHelp::ShowPage);
+    connect(m_page, &QTextBrowser::anchorClicked, this, [this](const QUrl &link) {
+        m_contents->setCurrentRow(static_cast<int>(m_book.IndexOf(link.toString())));
+    });
+    SkinDialog(tr("Quorvex Help"));
+    m_contents->setCurrentRow(static_cast<int>(m_book.IndexOf(pageName)));
+    m_page->setFocus();
+}
+
+void DlgHelp::ShowPage(qsizetype index)
+{
+    if (index >= 0 && index < m_book.Pages().size())
+        m_page->setMarkdown(m_book.Pages()[index].text);
+}

@@ -1,0 +1,57 @@
+#include "Panel.h"
+#include "Pictures.h"
+#include "Shapes.h"
+#include "Theme.h"
+
+#include <QPainter>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+Picture MakePanel(const QString &name, const std::function<void(QPainter &)> &draw)
+{
+    return {name, QSize(Panel::width, Panel::height), [draw](QPainter &painter) {
+                painter.translate(0, -Panel::tabStripHeight);
+                draw(painter);
+            }};
+}
+
+// The fields where a line to type and the typing itself are shown.
+void DrawTextBoxFrame(QPainter &painter, const Theme &theme, const QRectF &box)
+{
+    Shapes::FillBordered(painter, box.adjusted(-2, -2, 2, 2), 3, theme.Color(u"panel.textBox"_s),
+                         theme.Color(u"panel.border"_s));
+}
+
+void DrawJuniorPanel(QPainter &painter, const Theme &theme)
+{
+    Panel::DrawBody(painter, theme);
+    Panel::DrawTitlePlate(painter, theme);
+    Panel::DrawWell(painter, theme, 100, 180, u"panel.keyCapWell"_s);
+    Panel::DrawStatusRow(painter, theme, 192);
+    Panel::DrawWell(painter, theme, 259, 537, u"keyboard.ground"_s);
+    Panel::DrawHintSign(painter, theme);
+}
+
+void DrawSeniorPanel(QPainter &painter, const Theme &theme)
+{
+    Panel::DrawBody(painter, theme);
+    Panel::DrawTitlePlate(painter, theme);
+    Panel::DrawWell(painter, theme, 106, 264, u"panel.keyCapWell"_s);
+    DrawTextBoxFrame(painter, theme, QRectF(66, 130, 858, 50));
+    DrawTextBoxFrame(painter, theme, QRectF(66, 190, 858, 50));
+    Panel::DrawStatusRow(painter, theme, 285);
+    Panel::DrawWell(painter, theme, 355, 633, u"keyboard.ground"_s);
+    Panel::DrawHintSign(painter, theme);
+}
+
+} // namespace
+
+void AddDrillPanels(PictureList &list, const Theme &theme)
+{
+    list.append(
+        MakePanel(u"EN_KEY_BACK_B"_s, [&theme](QPainter &painter) { DrawJuniorPanel(painter, theme); }));
+    list.append(
+        MakePanel(u"EN_KEY_BACK_E"_s, [&theme](QPainter &painter) { DrawSeniorPanel(painter, theme); }));
+}

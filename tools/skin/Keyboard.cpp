@@ -1,0 +1,192 @@
+#include "Keyboard.h"
+
+#include "KeyShapes.h"
+#include "Pictures.h"
+#include "Shapes.h"
+#include "Theme.h"
+
+#include <QPainter>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString LegendOf(const AnsiKey &key)
+{
+    if (key.name.endsWith(u"Shift"_s))
+        return u"Shift"_s;
+    if (key.name.endsWith(u"Ctrl"_s))
+        return u"Ctrl"_s;
+    if (key.name.endsWith(u"Alt"_s))
+        return u"Alt"_s;
+    return key.name;
+}
+
+/// Draws the legends of one key, in the sizes of one picture.
+class LegendPainter
+{
+public:
+    LegendPainter(QPainter &painter, const Theme &theme, AnsiKeyboard::Size size, KeyState state)
+        : m_painter(painter)
+        , m_theme(theme)
+        , m_sizes(size == AnsiKeyboard::Size::Large ? u"keyboard.large."_s : u"keyboard.small."_s)
+        , m_color(theme.Color(state == KeyState::Prompt    ? u"keyboard.promptText"_s
+                              : state == KeyState::Pressed ? u"keyboard.pressedText"_s
+                                                           : u"keyboard.text"_s))
+        , m_quiet(theme.Color(state == KeyState::Prompt    ? u"keyboard.promptText"_s
+                              : state == KeyState::Pressed ? u"keyboard.pressedText"_s
+                                                           : u"keyboard.quietText"_s))
+    {
+    }
+
+    void Draw(const AnsiKey &key, const QRectF &face)
+    {
+        if (key.name == u"Left Meta"_s || key.name == u"Right Meta"_s)
+            DrawMetaSign(face);
+        else if (key.name == u"Menu"_s)
+            DrawMenuSign(face);
+        else if (key.plain.isLetter())
+            DrawLetter(key, face);
+        else if (key.TypesCharacter() && !key.plain.isSpace())
+            DrawPair(key, face);
+        else
+            DrawName(key, face);
+    }
+
+private:
+    qreal Size(const QString &name) const { return m_theme.Number(m_sizes + name); }
+
+    void DrawLetter(const AnsiKey &key, const QRectF &face)
+    {
+        const qreal inset = Size(u"inset"_s);
+        const qreal size = Size(u"letter"_s);
+        Shapes::DrawLabel(m_painter, QRectF(face.left() + inset, face.top() + inset - 1, face.width(), size),
+                          QString(key.shifted), {size, true, m_color, Qt::AlignLeft});
+        const qreal small = Size(u"smallLetter"_s);
+        Shapes::DrawLabel(m_painter,
+                          QRectF(face.left(), face.bottom() - inset - small, face.width() - inset, small),
+                          QString(key.plain), {small, false, m_quiet, Qt::AlignRight});
+        if (key.plain == u'f' || key.plain == u'j')
+            DrawBump(face);
+    }
+
+    void DrawPair(const AnsiKey &key, const QRectF &face)
+    {
+        const qreal inset = Size(u"inset"_s);
+        const qreal size = Size(u"pair"_s);
+        const qreal width = Size(u"pairWidth"_s);
+        Shapes::DrawLabel(m_painter, QRectF(face.left() + inset, face.top() + inset, width, size),
+                          QString(key.shifted), {size, true, m_color});
+        Shapes::DrawLabel(m_painter, QRectF(face.left() + inset, face.bottom() - inset - size, width, size),
+                          QString(key.plain), {size, true, m_color});
+    }
+
+    void DrawName(const AnsiKey &key, const QRectF &face)
+    {
+        const qreal inset = Size(u"inset"_s);
+        const bool rightHand = face.left() > m_painter.clipBoundingRect().center().x();
+        if (key.plain.isSpace())
+            Shapes::DrawLabel(m_painter, face, key.name, {Size(u"name"_s), false, m_quiet});
+        else
+            Shapes::DrawLabel(m_painter, face.adjusted(inset, 0, -inset, 0), LegendOf(key),
+                              {Size(u"name"_s), false, m_color, rightHand ? Qt::AlignRight : Qt::AlignLeft});
+    }
+
+    void DrawBump(const QRectF &face)
+    {
+        const QRectF bump(face.center().x() - 7, face.bottom() - 5, 14, 3);
+        Shapes::FillRounded(m_painter, bump, 1.5, m_color);
+    }
+
+    void DrawMetaSign(const QRectF &face)
+    {
+        QPainterPath diamond(face.center() - QPointF(0, 7));
+        diamond.lineTo(face.center() + QPointF(7, 0));
+        diamond.lineTo(face.center() + QPointF(0, 7));
+        diamond.lineTo(face.center() - QPointF(7, 0));
+        diamond.closeSubpath();
+        m_painter.setPen(QPen(m_color, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        m_painter.drawPath(diamond);
+        m_painter.setPen(Qt::NoPen);
+    }
+
+    void DrawMenuSign(const QRectF &face)
+    {
+        for (const int line : {-4, 0, 4})
+            Shapes::FillRounded(
+                m_painter, QRectF(qRound(face.center().x()) - 7, qRound(face.center().y()) + line - 1, 14, 2),
+                1, m_color);
+    }
+
+    QPainter &m_painter;
+    const Theme &m_theme;
+    QString m_sizes;
+    QColor m_color;
+    QColor m_quiet;
+};
+
+QRectF DrawKeyBody(QPainter &painter, const Theme &theme, const AnsiKey &key, const QRectF &box,
+                   KeyState state)
+{
+    KeyLook look{};
+    look.radius = theme.Number(u"keyboard.radius"_s);
+    look.lip = theme.Number(u"keyboard.lip"_s);
+    switch (state) {
+    case KeyState::Normal:
+        look.face = FingerTint(theme, key.finger);
+        look.edge = Shapes::Mix(look.face, theme.Color(u"keyboard.edge"_s), 0.45);
+        look.border = theme.Color(u"keyboard.border"_s);
+        break;
+    case KeyState::Prompt:
+        look.face = theme.Color(u"keyboard.prompt"_s);
+        look.edge = theme.Color(u"keyboard.promptEdge"_s);
+        look.border = theme.Color(u"keyboard.promptBorder"_s);
+        break;
+    case KeyState::Pressed:
+        look.face = Shapes::Mix(FingerTint(theme, key.finger), theme.Color(u"keyboard.edge"_s), 0.5);
+        look.border = theme.Color(u"keyboard.pressedBorder"_s);
+        return DrawSunkenKey(painter, box, look, look.lip, theme.Color(u"keyboard.pressedShadow"_s));
+    }
+    return DrawKey(painter, box, look);
+}
+
+} // namespace
+
+QColor FingerTint(const Theme &theme, Finger finger)
+{
+    static const std::array<QString, 9> names{u"little"_s,    u"ring"_s,  u"middle"_s,
+                                              u"leftIndex"_s, u"thumb"_s, u"rightIndex"_s,
+                                              u"middle"_s,    u"ring"_s,  u"little"_s};
+    return theme.Color(u"finger."_s + names.at(static_cast<size_t>(finger)));
+}
+
+void DrawKeyboard(QPainter &painter, const Theme &theme, AnsiKeyboard::Size size, KeyState state)
+{
+    const QRect picture(QPoint(0, 0), AnsiKeyboard::PictureSize(size));
+    painter.setClipRect(picture);
+    painter.fillRect(picture, theme.Color(u"keyboard.ground"_s));
+    LegendPainter legends(painter, theme, size, state);
+    const QList<AnsiKey> &keys = AnsiKeyboard::Keys();
+    for (int index = 0; index < keys.size(); ++index) {
+        const QRectF box = AnsiKeyboard::KeyRect(index, size);
+        legends.Draw(keys.at(index), DrawKeyBody(painter, theme, keys.at(index), box, state));
+    }
+}
+
+void AddKeyboards(PictureList &list, const Theme &theme)
+{
+    const QList<std::pair<QString, KeyState>> states{{u"KEYBOARD_NORMAL"_s, KeyState::Normal},
+                                                     {u"KEYBOARD_PROMPT"_s, KeyState::Prompt},
+                                                     {u"KEYBOARD_PRESSED"_s, KeyState::Pressed}};
+    for (const auto &[name, state] : states) {
+        list.append(
+            {name, AnsiKeyboard::PictureSize(AnsiKeyboard::Size::Large), [=, &theme](QPainter &painter) {
+                 DrawKeyboard(painter, theme, AnsiKeyboard::Size::Large, state);
+             }});
+        list.append({name + u"_SMALL"_s, AnsiKeyboard::PictureSize(AnsiKeyboard::Size::Small),
+                     [=, &theme](QPainter &painter) {
+                         DrawKeyboard(painter, theme, AnsiKeyboard::Size::Small, state);
+                     }});
+    }
+}

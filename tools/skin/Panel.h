@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QRectF>
+#include <QString>
+
+class QPainter;
+class Theme;
+
+/// The parts that module backgrounds are put together from. All coordinates are those of the content area:
+/// the tab strip takes its first 40 lines, the background begins below it.
+namespace Panel {
+
+constexpr int width = 994;
+constexpr int tabStripHeight = 40;
+constexpr int height = 664;
+/// Left and right edge of the wells.
+constexpr qreal wellLeft = 24;
+constexpr qreal wellRight = 970;
+
+/// Face and border. Its top line is the last line of the tab strip, which the lit tab opens.
+void DrawBody(QPainter &painter, const Theme &theme);
+
+/// A sunken field over the whole width, from `top` to `bottom`. `face` is a colour of the theme.
+void DrawWell(QPainter &painter, const Theme &theme, qreal top, qreal bottom, const QString &face);
+
+/// The plate of the lesson's title.
+void DrawTitlePlate(QPainter &painter, const Theme &theme);
+
+/// The plate of time, speed, progress and accuracy, whose labels are 13 below `panelTop`.
+void DrawStatusRow(QPainter &painter, const Theme &theme, qreal panelTop);
+
+/// The sign in front of the hint line.
+void DrawHintSign(QPainter &painter, const Theme &theme);
+
+} // namespace Panel

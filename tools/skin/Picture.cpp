@@ -1,0 +1,30 @@
+#include "Picture.h"
+
+#include <QPainter>
+
+Picture MakeStrip(const QString &name, const QSize &frame, int frames,
+                  const std::function<void(QPainter &, Frame)> &draw)
+{
+    return {name, QSize(frame.width() * frames, frame.height()), [=](QPainter &painter) {
+                for (int index = 0; index < frames; ++index) {
+                    painter.save();
+                    painter.translate(index * frame.width(), 0);
+                    painter.setClipRect(QRect(QPoint(0, 0), frame));
+                    draw(painter, static_cast<Frame>(index));
+                    painter.restore();
+                }
+            }};
+}
+
+QImage RenderPicture(const Picture &picture, int scale)
+{
+    QImage image(picture.size * scale, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter.scale(scale, scale);
+    painter.setPen(Qt::NoPen);
+    picture.draw(painter);
+    painter.end();
+    return image.convertToFormat(QImage::Format_ARGB32);
+}

@@ -6,6 +6,10 @@ target_compile_options(quorvex_options INTERFACE -Wall -Wextra -Wpedantic -Wconv
 target_compile_definitions(quorvex_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_STRICT_ITERATORS
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # g++ takes the sources of a batch for headers and objects to a private class with members of an unnamed namespace.
+    target_compile_options(quorvex_options INTERFACE -Wno-subobject-linkage)
+endif()
 if(QUORVEX_SANITIZE)
     target_compile_options(quorvex_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
         -fno-omit-frame-pointer -O1)

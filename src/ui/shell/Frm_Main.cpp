@@ -15,6 +15,7 @@
 #include "ui/widgets/SkinButton.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>

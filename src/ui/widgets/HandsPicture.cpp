@@ -1,0 +1,57 @@
+#include "ui/widgets/HandsPicture.h"
+
+#include "ui/skin/SkinLibrary.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+using namespace Qt::Literals::StringLiterals;
+
+HandsPicture::HandsPicture(QWidget *parent)
+    : QWidget(parent)
+{
+    setObjectName(u"picActivateFinger"_s);
+    setAccessibleName(tr("Finger to use"));
+    resize(sizeHint());
+}
+
+void HandsPicture::SetBaseOffset(int baseOffset)
+{
+    m_baseOffset = baseOffset;
+    resize(sizeHint());
+    update();
+}
+
+QSize HandsPicture::sizeHint() const
+{
+    const QSize picture = SkinLibrary().BitmapSize(u"HAND_CLEAR"_s);
+    const QSize size = picture.isEmpty() ? QSize(525, 150) : picture;
+    return {qMax(0, size.width() - m_baseOffset), size.height()};
+}
+
+void HandsPicture::SetActiveFinger(const FingerStrip &strip, const QString &finger)
+{
+    if (m_strip == strip)
+        return;
+    update(StripRect());
+    m_strip = strip;
+    update(StripRect());
+    setAccessibleDescription(finger);
+}
+
+QRect HandsPicture::StripRect() const
+{
+    return {m_strip.offset - m_baseOffset, 0, m_strip.width, height()};
+}
+
+void HandsPicture::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    const QPoint base(m_baseOffset, 0);
+    for (const QRect &exposed : event->region()) {
+        m_plain.Draw(painter, exposed.topLeft(), exposed.translated(base));
+        const QRect lit = exposed & StripRect();
+        if (!lit.isEmpty() && !m_lit.Draw(painter, lit.topLeft(), lit.translated(base)))
+            painter.fillRect(lit, QColor(255, 164, 84));
+    }
+}

@@ -1,0 +1,177 @@
+#include "ui/widgets/OnScreenKeys.h"
+
+#include "core/drills/KeyDrillSession.h"
+#include "ui/skin/Fonts.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+OnScreenKeys::OnScreenKeys(const QString &objectName, const QString &accessibleName, QWidget *parent)
+    : QWidget(parent)
+{
+    setObjectName(objectName);
+    setAccessibleName(accessibleName);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void OnScreenKeys::SetPictures(const Pictures &names)
+{
+    m_normalPicture.SetName(names.normal);
+    m_promptPicture.SetName(names.prompt);
+    m_pressedPicture.SetName(names.pressed);
+    update();
+}
+
+void OnScreenKeys::SetPromptKey(const QString &character)
+{
+    const std::u32string characters = character.toStdU32String();
+    const auto prompt = characters.empty() ? std::nullopt : std::optional(characters.front());
+    if (prompt == m_promptCharacter)
+        return;
+    m_promptCharacter = prompt;
+    UpdatePrompt();
+}
+
+QString OnScreenKeys::PromptKey() const
+{
+    return m_promptCharacter ? QString::fromUcs4(&*m_promptCharacter, 1) : QString();
+}
+
+void OnScreenKeys::SetDisplayOption(int option)
+{
+    m_caseCounts = option != 0;
+}
+
+void OnScreenKeys::UpdatePrompt()
+{
+    const auto before =
+        std::exchange(m_prompt, m_promptCharacter ? StrokeFor(*m_promptCharacter) : std::nullopt);
+    for (const auto &stroke : {before, m_prompt}) {
+        if (stroke) {
+            UpdateKey(stroke->key);
+            UpdateKey(stroke->shiftKey);
+        }
+    }
+    DescribeState();
+}
+
+void OnScreenKeys::KeyDown(const KeyStroke &stroke)
+{
+    const auto key = KeyFor(stroke);
+    const bool known = std::any_of(m_held.cbegin(), m_held.cend(),
+                                   [&stroke](const HeldKey &held) { return held.id == stroke.id; });
+    if (!key || known) // a held key repeats
+        return;
+    m_held.append({stroke.id, *key});
+    UpdateKey(key);
+    DescribeState();
+}
+
+void OnScreenKeys::KeyUp(const KeyStroke &stroke)
+{
+    const auto held = std::find_if(m_held.begin(), m_held.end(),
+                                   [&stroke](const HeldKey &one) { return one.id == stroke.id; });
+    if (held == m_held.end())
+        return;
+    const int key = held->key;
+    m_held.erase(held);
+    UpdateKey(key);
+    DescribeState();
+}
+
+void OnScreenKeys::ReleaseAllKeys()
+{
+    if (m_held.isEmpty())
+        return;
+    for (const HeldKey &held : std::exchange(m_held, {}))
+        UpdateKey(held.key);
+    DescribeState();
+}
+
+void OnScreenKeys::Check(char32_t typed)
+{
+    const bool right = m_promptCharacter &&
+                       (m_caseCounts ? typed == *m_promptCharacter : IsSameKey(typed, *m_promptCharacter));
+    m_outcome = Outcome{typed, right};
+}
+
+void OnScreenKeys::CharacterHandled()
+{
+    if (const auto outcome = std::exchange(m_outcome, std::nullopt))
+        Q_EMIT KeyChecked(QString::fromUcs4(&outcome->typed, 1), outcome->right);
+}
+
+bool OnScreenKeys::IsPressed(int key) const
+{
+    return std::any_of(m_held.cbegin(), m_held.cend(),
+                       [key](const HeldKey &held) { return held.key == key; });
+}
+
+bool OnScreenKeys::IsPrompted(int key) const
+{
+    return m_prompt && (m_prompt->key == key || m_prompt->shiftKey == key);
+}
+
+void OnScreenKeys::UpdateKey(std::optional<int> key)
+{
+    if (key)
+        update(KeyRect(*key));
+}
+
+void OnScreenKeys::DescribeState()
+{
+    QStringList parts;
+    if (m_prompt) {
+        const QString key = KeyName(m_prompt->key);
+        parts += tr("Next key: %1, %2")
+                     .arg(m_prompt->shiftKey ? tr("%1 and %2").arg(KeyName(*m_prompt->shiftKey), key) : key,
+                          FingerName(m_prompt->key));
+    }
+    if (!m_held.isEmpty()) {
+        QStringList pressed;
+        for (const HeldKey &held : std::as_const(m_held))
+            pressed += KeyName(held.key);
+        parts += tr("Pressed: %1").arg(pressed.join(u", "_s));
+    }
+    setAccessibleDescription(parts.join(u". "_s));
+}
+
+void OnScreenKeys::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    const bool skinned = !m_normalPicture.For(devicePixelRatioF()).isNull();
+    for (const QRect &rect : event->region()) {
+        if (skinned)
+            m_normalPicture.Draw(painter, rect.topLeft(), rect);
+    }
+    for (int key = 0; key < KeyCount(); ++key) {
+        const QRect rect = KeyRect(key);
+        if (!event->region().intersects(rect))
+            continue;
+        if (!skinned)
+            PaintPlainKey(painter, key);
+        else if (IsPressed(key))
+            m_pressedPicture.Draw(painter, rect.topLeft(), rect);
+        else if (IsPrompted(key))
+            m_promptPicture.Draw(painter, rect.topLeft(), rect);
+    }
+}
+
+void OnScreenKeys::PaintPlainKey(QPainter &painter, int key) const
+{
+    QColor ground(240, 242, 246);
+    if (IsPressed(key))
+        ground = QColor(190, 196, 208);
+    else if (IsPrompted(key))
+        ground = QColor(255, 164, 84);
+    const QRect rect = KeyRect(key);
+    painter.fillRect(rect, QColor(141, 148, 167));
+    painter.fillRect(rect.adjusted(1, 1, -1, -1), ground);
+    painter.setPen(QColor(80, 80, 80));
+    painter.setFont(Public_Function::InterfaceFont(9));
+    painter.drawText(rect, Qt::AlignCenter | Qt::TextWordWrap, KeyName(key));
+}

@@ -21,7 +21,6 @@ public:
         if (!user.isEmpty())
             MakeFolder(QStringLiteral("Users/") + user);
     }
-    ~TestInstall() { Shared() = Public_Define(); }
     Q_DISABLE_COPY_MOVE(TestInstall)
 
     /// Native path of something in the install folder.

@@ -11,9 +11,14 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace Public_Function {
 
+QString UserDir(const QString &user)
+{
+    return Shared().InstallDir + u"Users\\"_s + user + u'\\';
+}
+
 QString UserDir()
 {
-    return Shared().InstallDir + u"Users\\"_s + Shared().CurrentUserName + u'\\';
+    return UserDir(Shared().CurrentUserName);
 }
 
 QString SettingFilePath()

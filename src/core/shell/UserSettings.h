@@ -5,7 +5,9 @@
 /// Where the user's files are, and the settings that are loaded at login into the shared values.
 namespace Public_Function {
 
-/// The folder of the user who is logged in, ending in a separator.
+/// The folder of a user, ending in a separator.
+QString UserDir(const QString &user);
+/// The folder of the user who is logged in.
 QString UserDir();
 /// The settings file in UserDir().
 QString SettingFilePath();

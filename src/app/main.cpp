@@ -1,7 +1,107 @@
+#include "app/AppNavigator.h"
+#include "app/ScreenFit.h"
+#include "core/shell/Public_Define.h"
+#include "platform/Paths.h"
+#include "platform/SdlSoundPlayer.h"
+#include "platform/Services.h"
+#include "platform/TerminationSignals.h"
+#include "ui/shell/Frm_Main.h"
+#include "ui/shell/ShowMessage.h"
+#include "ui/skin/Fonts.h"
+#include "ui/skin/SkinLibrary.h"
+#include "ui/skin/StatusTexts.h"
+
 #include <QApplication>
+#include <QPixmapCache>
+#include <QScreen>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int PixmapCacheKilobytes = 64 * 1024;
+
+/// The program folder, ending in exactly one separator.
+QString FindInstallDir()
+{
+    QString folder = Public_Function::ProductPath(QCoreApplication::applicationDirPath());
+    if (!folder.endsWith(u'\\'))
+        folder += u'\\';
+    return folder;
+}
+
+/// An application object whose scale leaves room for the windows on the screen there is.
+std::unique_ptr<QApplication> MakeApplication(int &argc, char **argv)
+{
+    auto application = std::make_unique<QApplication>(argc, argv);
+    const double factor = ScaleToFit(QGuiApplication::primaryScreen()->size(),
+                                     QGuiApplication::primaryScreen()->devicePixelRatio());
+    if (factor < 1.0) {
+        application.reset();
+        LowerScale(factor);
+        application = std::make_unique<QApplication>(argc, argv);
+    }
+    return application;
+}
+
+void SayWhatIsMissing()
+{
+    if (SkinLibrary().IsUsable())
+        return;
+    Public_Function::ShowMessage(
+        QObject::tr("The pictures are missing or damaged; windows are shown in plain colours:\n%1")
+            .arg(Shared().InstallDir + "Bitmap\\1024_CH.DLL"_L1),
+        u"Quorvex"_s, MessageIcon::Information, MessageButtons::Ok);
+}
+
+/// Closes what is open, innermost first, so that every window stores what it holds.
+void EndProgram(Frm_Main *mainWindow)
+{
+    for (int depth = 0; depth < 16 && QApplication::activeModalWidget(); ++depth)
+        QApplication::activeModalWidget()->close();
+    mainWindow->close();
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
-    QApplication app(argc, argv);
-    return 0;
+    // The look must not depend on the desktop's own style.
+    QApplication::setStyle(u"fusion"_s);
+    QCoreApplication::setApplicationName(u"Quorvex"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUORVEX_VERSION));
+    const std::unique_ptr<QApplication> application = MakeApplication(argc, argv);
+
+    Shared().InstallDir = FindInstallDir();
+    Shared().HelpFile = Shared().InstallDir + u"Quorvex.chm"_s;
+    QPixmapCache::setCacheLimit(PixmapCacheKilobytes);
+    Public_Function::LoadFonts();
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    Public_Function::InitFontSizes(screen->logicalDotsPerInch());
+    Shared().ScreenRect = QRect(QPoint(0, 0), screen->size());
+
+    if (Shared().ScreenRect.width() < SmallestLayout.width()) {
+        Public_Function::ShowMessage(u"Quorvex can't run in 1024*768, Please reset it and sartup again."_s,
+                                     u"Quorvex"_s, MessageIcon::Error, MessageButtons::Ok);
+        return 1;
+    }
+
+    SdlSoundPlayer sound;
+    PlatformServices().sound = &sound;
+    PlatformServices().random.seed(std::random_device{}());
+    AppNavigator navigator;
+    Frm_Main mainWindow(navigator);
+    navigator.SetMainWindow(&mainWindow);
+    const TerminationSignals termination([&mainWindow] { EndProgram(&mainWindow); });
+
+    mainWindow.ShowMenu();
+    // The login runs its own loop; the menu must be on the screen before.
+    QMetaObject::invokeMethod(
+        &mainWindow,
+        [&mainWindow] {
+            SayWhatIsMissing();
+            mainWindow.UserLogin();
+        },
+        Qt::QueuedConnection);
+    return QApplication::exec();
 }

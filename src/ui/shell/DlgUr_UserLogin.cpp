@@ -56,7 +56,7 @@ DlgUr_UserLogin::DlgUr_UserLogin(QWidget *owner)
 
     TxtUserName->setObjectName(u"TxtUserName"_s);
     TxtUserName->setAccessibleName(tr("User name"));
-    TxtUserName->setPlaceholderText(tr("Type a new name or choose one below"));
+    TxtUserName->setPlaceholderText(tr("Type or choose a name"));
     TxtUserName->setMaxLength(LongestName);
     TxtUserName->setValidator(new NameValidator(TxtUserName));
     TxtUserName->setFont(Public_Function::InterfaceFont(10));
@@ -85,7 +85,9 @@ DlgUr_UserLogin::DlgUr_UserLogin(QWidget *owner)
     resize(width(), top + XBtnEnter->height() + 18);
     SkinDialog(u"Login "_s);
 
-    setTabOrder({TxtUserName, LstUser, XBtnEnter, XBtnDelete});
+    setTabOrder(TxtUserName, LstUser);
+    setTabOrder(LstUser, XBtnEnter);
+    setTabOrder(XBtnEnter, XBtnDelete);
     SetDefaultButton(XBtnEnter);
     FillUserList();
     TxtUserName->setFocus();
@@ -138,16 +140,10 @@ void DlgUr_UserLogin::EnterTyped()
     const QString name = TxtUserName->text();
     if (name.isEmpty())
         return;
-    if (m_users.UserExists(name)) {
-        Login(name);
-    } else if (!UserList::IsInvalidName(name)) {
+    // Where the list cannot be written the person still gets in; what is lost is said after the login.
+    if (!m_users.UserExists(name) && !m_users.IsInvalidName(name))
         m_users.AddUser(name);
-        Login(name);
-    } else {
-        Public_Function::ShowMessage(u"The user name is unavailable."_s, u"Create account"_s,
-                                     MessageIcon::Error, MessageButtons::Ok);
-        TxtUserName->setFocus();
-    }
+    Login(name);
 }
 
 void DlgUr_UserLogin::Login(const QString &name)

@@ -79,7 +79,7 @@ void Dlg_MessageBox::CreateMessage(const QString &text, const QString &caption, 
     }
     LabMessageInfo->setText(Breakable(text));
     LabMessageInfo->setFixedWidth(LabelWidth);
-    const int textHeight = LabMessageInfo->heightForWidth(LabelWidth);
+    const int textHeight = qMax(0, LabMessageInfo->heightForWidth(LabelWidth));
     LabMessageInfo->setFixedHeight(textHeight);
 
     const int highest = screen()->geometry().height() - 40;

@@ -1,0 +1,139 @@
+#include "app/AppNavigator.h"
+
+#include "core/shell/Public_Define.h"
+#include "platform/Paths.h"
+#include "ui/drills/frmEn_KeyTrain_Basic.h"
+#include "ui/shell/DlgHelp.h"
+#include "ui/shell/Frm_Main.h"
+#include "ui/shell/ShowMessage.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+void SayNotYet(const QString &what)
+{
+    Public_Function::ShowMessage(AppNavigator::tr("%1 is not in this version yet.").arg(what), u"Quorvex"_s,
+                                 MessageIcon::Information, MessageButtons::Ok);
+}
+
+void BringToFront(QWidget *window)
+{
+    window->setWindowState((window->windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+} // namespace
+
+AppNavigator::AppNavigator(QObject *parent)
+    : QObject(parent)
+{
+    qApp->installEventFilter(this);
+}
+
+void AppNavigator::SetMainWindow(Frm_Main *window)
+{
+    m_main = window;
+}
+
+void AppNavigator::ComeForward()
+{
+    if (!m_main)
+        return;
+    BringToFront(m_main);
+    if (m_drill)
+        BringToFront(m_drill);
+    if (QWidget *dialog = QApplication::activeModalWidget())
+        BringToFront(dialog);
+}
+
+bool AppNavigator::CanOpenDrill(DrillKind kind)
+{
+    switch (kind) {
+    case DrillKind::KeyJunior:
+        return true;
+    case DrillKind::KeySenior:
+        SayNotYet(tr("The key drill for seniors"));
+        break;
+    case DrillKind::Word:
+        SayNotYet(tr("The word drill"));
+        break;
+    case DrillKind::Article:
+        SayNotYet(tr("The text drill"));
+        break;
+    case DrillKind::Numpad:
+        SayNotYet(tr("The numeric keypad drill"));
+        break;
+    }
+    return false;
+}
+
+void AppNavigator::OpenDrill(DrillKind kind, QWidget *instead)
+{
+    if (m_drill && m_drill != instead) {
+        BringToFront(m_drill);
+        return;
+    }
+    if (!CanOpenDrill(kind))
+        return;
+    auto *drill = new frmEn_KeyTrain_Basic(*this, m_main);
+    m_drill = drill;
+    drill->Open();
+    if (instead)
+        instead->close();
+}
+
+bool AppNavigator::OpenSpeedTest()
+{
+    SayNotYet(tr("The speed test"));
+    return false;
+}
+
+bool AppNavigator::OpenPersonalRecords()
+{
+    SayNotYet(tr("The page of your records"));
+    return false;
+}
+
+void AppNavigator::ShowMainMenu()
+{
+    if (m_main && m_main->isVisible()) {
+        m_main->raise();
+        m_main->activateWindow();
+    }
+}
+
+void AppNavigator::MinimizeAll()
+{
+    m_main->showMinimized();
+}
+
+void AppNavigator::ShowHelp(QWidget *from)
+{
+    QWidget *owner = from ? from->window() : m_main;
+    const HelpBook book(Shared().HelpFile);
+    if (book.Pages().isEmpty()) {
+        Public_Function::ShowMessage(tr("The help file is missing or damaged:\n%1")
+                                         .arg(Public_Function::NativePath(Shared().HelpFile)),
+                                     u"Quorvex"_s, MessageIcon::Error, MessageButtons::Ok);
+        return;
+    }
+    DlgHelp(book, owner->objectName(), owner).exec();
+}
+
+bool AppNavigator::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_F1 &&
+        watched->isWidgetType()) {
+        QWidget *window = QApplication::activeWindow();
+        if (!qobject_cast<DlgHelp *>(window))
+            ShowHelp(window);
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}

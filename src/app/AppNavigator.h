@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ui/shell/Navigator.h"
+
+#include <QObject>
+#include <QPointer>
+
+class Frm_Main;
+
+/// Makes the windows and shows them; also gives F1 to the help wherever it is pressed.
+class AppNavigator : public QObject, public Navigator
+{
+    Q_OBJECT
+
+public:
+    explicit AppNavigator(QObject *parent = nullptr);
+
+    void SetMainWindow(Frm_Main *window);
+    /// A second copy was started: shows this one, with its open dialog on top.
+    void ComeForward();
+
+    bool CanOpenDrill(DrillKind kind) override;
+    void OpenDrill(DrillKind kind, QWidget *instead = nullptr) override;
+    bool OpenSpeedTest() override;
+    bool OpenPersonalRecords() override;
+    void ShowMainMenu() override;
+    void MinimizeAll() override;
+    void ShowHelp(QWidget *from) override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QPointer<Frm_Main> m_main;
+    QPointer<QWidget> m_drill;
+};

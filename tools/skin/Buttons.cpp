@@ -70,14 +70,15 @@ Picture MakeTextButton(const Theme &theme, const QJsonObject &entry)
     const QString label = entry.value(u"label").toString();
     const QString style = entry.value(u"style").toString();
     const int frames = entry.value(u"frames").toInt(usualFrames);
+    const qreal textSize = entry.value(u"textSize").toDouble(theme.Number(u"button.textSize"_s));
     const QSize size(entry.value(u"width").toInt(), entry.value(u"height").toInt());
-    return MakeStrip(
-        entry.value(u"name").toString(), size, frames, [=, &theme](QPainter &painter, Frame frame) {
-            const ButtonLook look(theme, style, frame);
-            DrawButtonBody(painter, size, look, frame, theme);
-            const QRectF box(0, frame == Frame::Pressed ? 1 : 0, size.width(), size.height());
-            Shapes::DrawLabel(painter, box, label, {theme.Number(u"button.textSize"_s), true, look.text});
-        });
+    return MakeStrip(entry.value(u"name").toString(), size, frames,
+                     [=, &theme](QPainter &painter, Frame frame) {
+                         const ButtonLook look(theme, style, frame);
+                         DrawButtonBody(painter, size, look, frame, theme);
+                         const QRectF box(0, frame == Frame::Pressed ? 1 : 0, size.width(), size.height());
+                         Shapes::DrawLabel(painter, box, label, {textSize, true, look.text});
+                     });
 }
 
 Picture MakeMenuButton(const Theme &theme, const QString &name, const QString &label, Icon icon)

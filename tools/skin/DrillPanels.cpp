@@ -20,8 +20,7 @@ Picture MakePanel(const QString &name, const std::function<void(QPainter &)> &dr
 // The fields where a line to type and the typing itself are shown.
 void DrawTextBoxFrame(QPainter &painter, const Theme &theme, const QRectF &box)
 {
-    Shapes::FillBordered(painter, box.adjusted(-2, -2, 2, 2), 3, theme.Color(u"panel.textBox"_s),
-                         theme.Color(u"panel.border"_s));
+    Shapes::FillBordered(painter, box, 3, theme.Color(u"panel.textBox"_s), theme.Color(u"panel.border"_s));
 }
 
 void DrawJuniorPanel(QPainter &painter, const Theme &theme)
@@ -30,8 +29,8 @@ void DrawJuniorPanel(QPainter &painter, const Theme &theme)
     Panel::DrawTitlePlate(painter, theme);
     Panel::DrawWell(painter, theme, 100, 180, u"panel.keyCapWell"_s);
     Panel::DrawStatusRow(painter, theme, 192);
-    Panel::DrawWell(painter, theme, 259, 537, u"keyboard.ground"_s);
-    Panel::DrawHintSign(painter, theme);
+    Panel::DrawWell(painter, theme, 254, 541, u"keyboard.ground"_s);
+    Panel::DrawHintMark(painter, theme);
 }
 
 void DrawSeniorPanel(QPainter &painter, const Theme &theme)
@@ -39,11 +38,11 @@ void DrawSeniorPanel(QPainter &painter, const Theme &theme)
     Panel::DrawBody(painter, theme);
     Panel::DrawTitlePlate(painter, theme);
     Panel::DrawWell(painter, theme, 106, 264, u"panel.keyCapWell"_s);
-    DrawTextBoxFrame(painter, theme, QRectF(66, 130, 858, 50));
-    DrawTextBoxFrame(painter, theme, QRectF(66, 190, 858, 50));
+    for (const qreal top : {130.0, 190.0})
+        DrawTextBoxFrame(painter, theme, QRectF(QPointF(62, top - 2), QPointF(932, top + 52)));
     Panel::DrawStatusRow(painter, theme, 285);
-    Panel::DrawWell(painter, theme, 355, 633, u"keyboard.ground"_s);
-    Panel::DrawHintSign(painter, theme);
+    Panel::DrawWell(painter, theme, 350, 638, u"keyboard.ground"_s);
+    Panel::DrawHintMark(painter, theme);
 }
 
 } // namespace

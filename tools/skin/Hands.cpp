@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr qreal pictureWidth = 525;
-constexpr qreal pictureHeight = 160;
+constexpr qreal pictureHeight = 162;
 
 /// A finger of the left hand: the line from the middle of its base to the middle of its tip, and half its
 /// width at both. `stripLeft` and `stripRight` bound the columns that light it.
@@ -26,6 +26,7 @@ struct FingerShape
     qreal tipHalf;
     qreal stripLeft;
     qreal stripRight;
+    qreal litFrom; // where on the way from base to tip the light begins
 
     QPointF Axis() const
     {
@@ -47,11 +48,11 @@ constexpr size_t thumb = 4;
 const std::array<FingerShape, 5> &LeftFingers()
 {
     static const std::array<FingerShape, 5> fingers{{
-        {{20.5, 114}, {14.5, 54}, 11.5, 10, 0, 34},
-        {{53.5, 104}, {51.5, 27}, 13, 11, 37, 70},
-        {{92.5, 100}, {93.5, 19}, 14, 12, 73, 115},
-        {{132, 105}, {137, 31}, 13.5, 11.5, 115, 160},
-        {{143, 166}, {186, 112}, 16.5, 13, 160, 205},
+        {{21, 117}, {14.5, 59}, 11.5, 10.2, 0, 34, -0.14},
+        {{53.5, 107}, {52, 31}, 13.2, 11.4, 37, 70, -0.14},
+        {{92.5, 103}, {93.5, 23}, 14, 12.2, 73, 115, -0.14},
+        {{131.5, 108}, {136.5, 35}, 13.6, 11.8, 115, 160, -0.14},
+        {{160, 170}, {187.5, 116}, 15.5, 12.6, 160, 205, 0.36},
     }};
     return fingers;
 }
@@ -80,27 +81,31 @@ QPainterPath FingerPath(const FingerShape &finger)
 QPainterPath HandOutline()
 {
     const auto &fingers = LeftFingers();
-    QPainterPath path(QPointF(24, pictureHeight + 20));
-    path.cubicTo(QPointF(20, 150), QPointF(10, 140), fingers.at(0).At(0, -1));
+    QPainterPath path(QPointF(34, pictureHeight + 20));
+    path.cubicTo(QPointF(28, 152), QPointF(12, 146), fingers.at(0).At(0, -1));
     for (size_t index = 0; index < thumb; ++index) {
         AddFingerOutline(path, fingers.at(index));
         if (index + 1 < thumb) { // the web between two fingers
             const QPointF from = fingers.at(index).At(0, 1);
             const QPointF to = fingers.at(index + 1).At(0, -1);
-            path.cubicTo(from + QPointF(0.5, 6.5), to + QPointF(-0.5, 6.5), to);
+            const qreal depth = 7;
+            path.cubicTo(from - fingers.at(index).Axis() * depth, to - fingers.at(index + 1).Axis() * depth,
+                         to);
         }
     }
     const FingerShape &thumbShape = fingers.at(thumb);
-    path.cubicTo(QPointF(146, 120), QPointF(147, 136), thumbShape.At(0.36, -1.02));
-    path.cubicTo(thumbShape.At(0.5, -1.05), thumbShape.At(0.75, -1.1), thumbShape.At(1, -1));
+    // The wide web between index finger and thumb.
+    path.cubicTo(QPointF(145.5, 120), QPointF(147, 133), QPointF(151.5, 140.5));
+    path.cubicTo(QPointF(154.5, 145.5), QPointF(159.5, 145), thumbShape.At(0.58, -1.07));
     const qreal roundness = thumbShape.tipHalf * 1.1;
     const QPointF apex = thumbShape.tip + thumbShape.Axis() * roundness;
+    path.cubicTo(thumbShape.At(0.75, -1.12), thumbShape.At(0.88, -1.06), thumbShape.At(1, -1));
     path.cubicTo(thumbShape.At(1, -1) + thumbShape.Axis() * roundness * 0.6,
                  apex - thumbShape.Side() * thumbShape.tipHalf * 0.55, apex);
     path.cubicTo(apex + thumbShape.Side() * thumbShape.tipHalf * 0.55,
                  thumbShape.At(1, 1) + thumbShape.Axis() * roundness * 0.6, thumbShape.At(1, 1));
-    path.cubicTo(thumbShape.At(0.7, 1.12), thumbShape.At(0.4, 1.05), thumbShape.At(0.1, 1.1));
-    path.lineTo(QPointF(150, pictureHeight + 20));
+    path.cubicTo(thumbShape.At(0.75, 1.14), thumbShape.At(0.45, 1.02), thumbShape.At(0.1, 1.25));
+    path.lineTo(QPointF(160, pictureHeight + 20));
     path.closeSubpath();
     return path;
 }
@@ -150,7 +155,7 @@ public:
                               m_theme.Number(u"hands.lineWidth"_s), Qt::SolidLine, Qt::FlatCap,
                               Qt::RoundJoin));
         m_painter.setBrush(Qt::NoBrush);
-        m_painter.drawPath(m_place.map(FingerPath(finger)));
+        m_painter.drawPath(m_outline);
         m_painter.setPen(Qt::NoPen);
         m_painter.restore();
     }
@@ -166,40 +171,54 @@ private:
         return gradient;
     }
 
-    /// Full from the tip to the lower half of the finger, then fading into the back of the hand.
+    /// Full from the tip down, then fading into the back of the hand.
     QBrush AlongFinger(const FingerShape &finger, const QColor &color) const
     {
         QColor none = color;
         none.setAlpha(0);
-        QLinearGradient gradient(m_place.map(finger.At(1, 0)), m_place.map(finger.At(-0.16, 0)));
+        QLinearGradient gradient(m_place.map(finger.At(1, 0)), m_place.map(finger.At(finger.litFrom, 0)));
         gradient.setColorAt(0, color);
-        gradient.setColorAt(0.66, color);
+        gradient.setColorAt(0.72, color);
         gradient.setColorAt(1, none);
         return gradient;
     }
 
+    /// The finger, rounded off towards its knuckle.
     QPainterPath LightShape(const FingerShape &finger) const
     {
         QPainterPath path = FingerPath(finger);
-        path.lineTo(finger.At(-0.3, 1));
-        path.lineTo(finger.At(-0.3, -1));
+        if (finger.litFrom > 0) // the light ends before the base, so the thumb's outline alone bounds it
+            return m_outline;
+        path.cubicTo(finger.At(-0.13, 0.9), finger.At(-0.13, -0.9), finger.At(0, -1));
         path.closeSubpath();
         return m_place.map(path);
     }
 
-    // A finger is round: darker towards the side that is away from the light.
+    // A finger is round: darker towards the side that is away from the light, down to where it joins the
+    // hand.
     void ShadeFinger(const FingerShape &finger, const QColor &shade)
     {
-        const QPointF left = m_place.map(finger.At(0.6, m_place.m11() < 0 ? 1 : -1));
-        const QPointF right = m_place.map(finger.At(0.6, m_place.m11() < 0 ? -1 : 1));
-        QColor none = shade;
-        none.setAlpha(0);
-        QLinearGradient gradient(left, right);
-        gradient.setColorAt(0.45, none);
-        gradient.setColorAt(1, shade);
+        const qreal away = m_place.m11() < 0 ? -1 : 1;
+        constexpr int bands = 12;
+        const qreal end = std::max(0.02, finger.litFrom);
         m_painter.save();
         m_painter.setClipPath(m_outline, Qt::IntersectClip);
-        m_painter.fillPath(m_place.map(FingerPath(finger)), gradient);
+        m_painter.setClipPath(LightShape(finger), Qt::IntersectClip);
+        m_painter.setBrush(Qt::NoBrush);
+        for (int band = 0; band < bands; ++band) {
+            const qreal across = away * (0.15 + 0.95 * (band + 0.5) / bands);
+            QColor color = shade;
+            color.setAlphaF(shade.alphaF() * static_cast<float>(band + 1) / bands);
+            QColor none = color;
+            none.setAlpha(0);
+            QLinearGradient gradient(m_place.map(finger.At(1, 0)), m_place.map(finger.At(end, 0)));
+            gradient.setColorAt(0, color);
+            gradient.setColorAt(0.55, color);
+            gradient.setColorAt(1, none);
+            m_painter.setPen(QPen(gradient, finger.baseHalf * 0.95 / bands, Qt::SolidLine, Qt::FlatCap));
+            m_painter.drawLine(m_place.map(finger.At(1.35, across)), m_place.map(finger.At(end, across)));
+        }
+        m_painter.setPen(Qt::NoPen);
         m_painter.restore();
     }
 
@@ -207,7 +226,7 @@ private:
     {
         m_painter.setBrush(Qt::NoBrush);
         m_painter.setPen(QPen(color, 1.1, Qt::SolidLine, Qt::RoundCap));
-        const bool isThumb = &finger == &LeftFingers().at(thumb);
+        const bool isThumb = finger.litFrom > 0;
         const QList<qreal> joints = isThumb ? QList<qreal>{0.62} : QList<qreal>{0.42, 0.47};
         for (const qreal joint : joints) {
             QPainterPath fold(finger.At(joint, -0.42));
@@ -224,8 +243,8 @@ private:
 
     void DrawNail(const FingerShape &finger, const QColor &color, const QColor &line)
     {
-        const qreal half = finger.tipHalf * 0.56;
-        const QPointF middle = finger.tip + finger.Axis() * finger.tipHalf * 0.28;
+        const qreal half = finger.tipHalf * 0.54;
+        const QPointF middle = finger.tip + finger.Axis() * finger.tipHalf * 0.22;
         QPainterPath nail;
         nail.addRoundedRect(QRectF(-half, -half * 1.25, 2 * half, half * 2.5), half * 0.95, half);
         QTransform place = m_place;

@@ -188,13 +188,6 @@ public:
         Dot({12.1, 19}, 1.35);
     }
 
-    void Hint()
-    {
-        m_painter.drawEllipse(QPointF(12, 12), 9, 9);
-        Line({12, 11.4}, {12, 16.6});
-        Dot({12, 7.6}, 1.2);
-    }
-
 private:
     void Line(const QPointF &from, const QPointF &to) { m_painter.drawLine(from, to); }
 
@@ -259,9 +252,6 @@ void DrawIcon(QPainter &painter, Icon icon, const QPointF &topLeft, qreal size, 
         break;
     case Icon::Help:
         lines.Help();
-        break;
-    case Icon::Hint:
-        lines.Hint();
         break;
     }
     painter.restore();

@@ -21,8 +21,7 @@ enum class Icon {
     Target,
     Close,
     Minimize,
-    Help,
-    Hint
+    Help
 };
 
 /// Draws the icon in `size` x `size` logical pixels from `topLeft` on.

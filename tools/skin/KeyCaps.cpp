@@ -10,13 +10,14 @@ using namespace Qt::Literals::StringLiterals;
 // below its deepest descender.
 void AddKeyCaps(PictureList &list, const Theme &theme)
 {
-    const int side = theme.Integer(u"keyCap.side"_s);
+    const QSize size(theme.Integer(u"keyCap.width"_s), theme.Integer(u"keyCap.height"_s));
+    const QRectF box(QPointF(0, 0), QSizeF(size));
     for (const QString &state : {u"normal"_s, u"on"_s}) {
         const QString name = state == u"on"_s ? u"ICON_KEY_ON"_s : u"ICON_KEY_NORMAL"_s;
-        list.append({name, QSize(side, side), [=, &theme](QPainter &painter) {
+        list.append({name, size, [=, &theme](QPainter &painter) {
                          const QString key = u"keyCap.%1."_s.arg(state);
-                         painter.fillRect(0, 0, side, side, theme.Color(u"panel.keyCapWell"_s));
-                         DrawKey(painter, QRectF(0, 0, side, side),
+                         painter.fillRect(box, theme.Color(u"panel.keyCapWell"_s));
+                         DrawKey(painter, box,
                                  {theme.Color(key + u"face"_s), theme.Color(key + u"edge"_s),
                                   theme.Color(key + u"border"_s), theme.Number(u"keyCap.lip"_s),
                                   theme.Number(u"keyCap.radius"_s)});

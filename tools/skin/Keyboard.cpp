@@ -71,26 +71,30 @@ private:
             DrawBump(face);
     }
 
+    // Both boxes are as high as the capitals need, so that a comma keeps its place below the line.
     void DrawPair(const AnsiKey &key, const QRectF &face)
     {
         const qreal inset = Size(u"inset"_s);
         const qreal size = Size(u"pair"_s);
         const qreal width = Size(u"pairWidth"_s);
-        Shapes::DrawLabel(m_painter, QRectF(face.left() + inset, face.top() + inset, width, size),
+        const qreal margin = Size(u"pairMargin"_s);
+        Shapes::DrawLabel(m_painter, QRectF(face.left() + inset, face.top() + margin, width, size * 0.72),
                           QString(key.shifted), {size, true, m_color});
-        Shapes::DrawLabel(m_painter, QRectF(face.left() + inset, face.bottom() - inset - size, width, size),
-                          QString(key.plain), {size, true, m_color});
+        Shapes::DrawLabel(
+            m_painter, QRectF(face.left() + inset, face.bottom() - margin - size * 0.72, width, size * 0.72),
+            QString(key.plain), {size, true, m_color});
     }
 
     void DrawName(const AnsiKey &key, const QRectF &face)
     {
         const qreal inset = Size(u"inset"_s);
-        const bool rightHand = face.left() > m_painter.clipBoundingRect().center().x();
         if (key.plain.isSpace())
             Shapes::DrawLabel(m_painter, face, key.name, {Size(u"name"_s), false, m_quiet});
         else
-            Shapes::DrawLabel(m_painter, face.adjusted(inset, 0, -inset, 0), LegendOf(key),
-                              {Size(u"name"_s), false, m_color, rightHand ? Qt::AlignRight : Qt::AlignLeft});
+            Shapes::DrawLabel(
+                m_painter, face.adjusted(inset, 0, -inset, 0), LegendOf(key),
+                {Size(u"name"_s), false, m_color,
+                 key.finger > Finger::Thumb || key.name == u"Right Alt"_s ? Qt::AlignRight : Qt::AlignLeft});
     }
 
     void DrawBump(const QRectF &face)

@@ -1,10 +1,9 @@
-#include "Keyboard.h"
+#include "Illustration.h"
 #include "Pictures.h"
 #include "Shapes.h"
 #include "Theme.h"
 
 #include <QPainter>
-#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -23,8 +22,8 @@ void DrawHeading(QPainter &painter, const Theme &theme)
 
 void DrawButtonPlate(QPainter &painter, const Theme &theme)
 {
-    Shapes::FillBordered(painter, QRectF(664, 204, 252, 376), 12, theme.Color(u"mainMenu.plate"_s),
-                         theme.Color(u"mainMenu.plateBorder"_s));
+    Shapes::FillBordered(painter, QRectF(664, 204, 252, 376), theme.Number(u"mainMenu.radius"_s),
+                         theme.Color(u"mainMenu.plate"_s), theme.Color(u"mainMenu.plateBorder"_s));
 }
 
 } // namespace
@@ -35,5 +34,6 @@ void AddMainMenu(PictureList &list, const Theme &theme)
     list.append({u"MAIN_BACK"_s, QSize(pictureWidth, pictureHeight), [&theme](QPainter &painter) {
                      DrawHeading(painter, theme);
                      DrawButtonPlate(painter, theme);
+                     DrawIllustration(painter, theme, QRectF(0, 204, 640, 376));
                  }});
 }

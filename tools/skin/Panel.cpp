@@ -1,6 +1,5 @@
 #include "Panel.h"
 
-#include "Icons.h"
 #include "Shapes.h"
 #include "Theme.h"
 
@@ -55,7 +54,7 @@ void DrawWell(QPainter &painter, const Theme &theme, qreal top, qreal bottom, co
 
 void DrawTitlePlate(QPainter &painter, const Theme &theme)
 {
-    Shapes::FillSunken(painter, QRectF(QPointF(wellLeft, 54), QPointF(586, 88)),
+    Shapes::FillSunken(painter, QRectF(QPointF(wellLeft, 54), QPointF(568, 88)),
                        theme.Number(u"panel.radius"_s), theme.Color(u"panel.plate"_s),
                        theme.Color(u"panel.wellBorder"_s), theme.Color(u"panel.wellShadow"_s));
 }
@@ -82,9 +81,9 @@ void DrawStatusRow(QPainter &painter, const Theme &theme, qreal panelTop)
     }
 }
 
-void DrawHintSign(QPainter &painter, const Theme &theme)
+void DrawHintMark(QPainter &painter, const Theme &theme)
 {
-    DrawIcon(painter, Icon::Hint, QPointF(wellLeft, 661), 20, theme.Color(u"status.icon"_s));
+    Shapes::FillRounded(painter, QRectF(wellLeft, 661, 3, 20), 1.5, theme.Color(u"palette.accent"_s));
 }
 
 } // namespace Panel

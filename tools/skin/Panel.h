@@ -14,8 +14,8 @@ constexpr int width = 994;
 constexpr int tabStripHeight = 40;
 constexpr int height = 664;
 /// Left and right edge of the wells.
-constexpr qreal wellLeft = 24;
-constexpr qreal wellRight = 970;
+constexpr qreal wellLeft = 42;
+constexpr qreal wellRight = 952;
 
 /// Face and border. Its top line is the last line of the tab strip, which the lit tab opens.
 void DrawBody(QPainter &painter, const Theme &theme);
@@ -29,7 +29,7 @@ void DrawTitlePlate(QPainter &painter, const Theme &theme);
 /// The plate of time, speed, progress and accuracy, whose labels are 13 below `panelTop`.
 void DrawStatusRow(QPainter &painter, const Theme &theme, qreal panelTop);
 
-/// The sign in front of the hint line.
-void DrawHintSign(QPainter &painter, const Theme &theme);
+/// The mark in front of the hint line.
+void DrawHintMark(QPainter &painter, const Theme &theme);
 
 } // namespace Panel

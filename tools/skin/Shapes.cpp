@@ -33,14 +33,22 @@ void DrawLabel(QPainter &painter, const QRectF &box, const QString &text, const 
         left += (box.width() - width) / 2;
     else if (style.alignment == Qt::AlignRight)
         left += box.width() - width;
-    const qreal scale = std::abs(painter.worldTransform().m22()) > 0 ? painter.worldTransform().m22() : 1;
-    const auto onDevicePixel = [scale](qreal value) { return std::round(value * scale) / scale; };
-    const qreal baseline = onDevicePixel(box.top() + (box.height() + metrics.capHeight()) / 2);
+    const qreal baseline = box.top() + (box.height() + metrics.capHeight()) / 2;
 
     painter.save();
     painter.setFont(font);
     painter.setPen(style.color);
-    painter.drawText(QPointF(onDevicePixel(left), baseline), text);
+    const QTransform &transform = painter.worldTransform();
+    if (transform.type() > QTransform::TxScale) { // a turned or tilted text has no device pixels to sit on
+        QPainterPath letters;
+        letters.addText(left, baseline, font, text);
+        painter.fillPath(letters, style.color);
+    } else {
+        const auto onDevicePixel = [scale = transform.m22()](qreal value) {
+            return std::round(value * scale) / scale;
+        };
+        painter.drawText(QPointF(onDevicePixel(left), onDevicePixel(baseline)), text);
+    }
     painter.restore();
 }
 

@@ -28,15 +28,13 @@ namespace {
 Picture MakeProgressBar(const Theme &theme, const QString &name, const QString &color)
 {
     const QSize size(theme.Integer(u"progress.width"_s), theme.Integer(u"progress.height"_s));
-    return {
-        name, size, [=, &theme](QPainter &painter) {
-            const QRectF box(QPointF(0, 0), QSizeF(size));
-            const QColor face = theme.Color(u"progress.%1"_s.arg(color));
-            const qreal radius = theme.Number(u"progress.radius"_s);
-            Shapes::FillBordered(painter, box, radius, face, theme.Color(u"progress.%1Border"_s.arg(color)));
-            const QRectF shine(2, 2, size.width() - 4, size.height() / 2.0 - 2);
-            Shapes::FillRounded(painter, shine, radius - 2, theme.Color(u"progress.%1Shine"_s.arg(color)));
-        }};
+    return {name, size, [=, &theme](QPainter &painter) {
+                const QRectF box(QPointF(0, 0), QSizeF(size));
+                const QColor face = theme.Color(u"progress.%1"_s.arg(color));
+                const qreal radius = theme.Number(u"progress.radius"_s);
+                Shapes::FillBordered(painter, box, radius, face,
+                                     theme.Color(u"progress.%1Border"_s.arg(color)));
+            }};
 }
 
 } // namespace

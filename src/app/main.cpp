@@ -4,6 +4,7 @@
 #include "platform/Paths.h"
 #include "platform/SdlSoundPlayer.h"
 #include "platform/Services.h"
+#include "platform/SingleInstance.h"
 #include "platform/TerminationSignals.h"
 #include "ui/shell/Frm_Main.h"
 #include "ui/shell/ShowMessage.h"
@@ -72,6 +73,9 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(QUORVEX_VERSION));
     const std::unique_ptr<QApplication> application = MakeApplication(argc, argv);
 
+    SingleInstance instance;
+    if (!instance.IsFirst())
+        return 0;
     Shared().InstallDir = FindInstallDir();
     Shared().HelpFile = Shared().InstallDir + u"Quorvex.chm"_s;
     QPixmapCache::setCacheLimit(PixmapCacheKilobytes);
@@ -92,6 +96,7 @@ int main(int argc, char **argv)
     AppNavigator navigator;
     Frm_Main mainWindow(navigator);
     navigator.SetMainWindow(&mainWindow);
+    instance.SetOnSecondStart([&navigator] { navigator.ComeForward(); });
     const TerminationSignals termination([&mainWindow] { EndProgram(&mainWindow); });
 
     mainWindow.ShowMenu();

@@ -56,11 +56,13 @@ void DrawButtonBody(QPainter &painter, const QSize &size, const ButtonLook &look
         painter.fillRect(QRectF(0, 1, size.width(), 2), theme.Color(u"button.pressedShadow"_s));
         painter.restore();
     }
-    if (frame == Frame::Focused) {
+    if (frame == Frame::Focused) { // two colours, so that one of them is seen on any face
         painter.save();
-        painter.setPen(QPen(theme.Color(u"runtime.focus"_s), 2));
         painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(theme.Color(u"palette.accent"_s), 2));
         painter.drawRoundedRect(box.adjusted(1, 1, -1, -1), radius - 1, radius - 1);
+        painter.setPen(QPen(theme.Color(u"palette.slateDeep"_s), 1));
+        painter.drawRoundedRect(box.adjusted(2.5, 2.5, -2.5, -2.5), radius - 2, radius - 2);
         painter.restore();
     }
 }

@@ -13,8 +13,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qreal pictureWidth = 525;
-constexpr qreal pictureHeight = 162;
+constexpr qreal handsWidth = 525;
+constexpr qreal handsHeight = 162;
 
 /// A finger of the left hand: the line from the middle of its base to the middle of its tip, and half its
 /// width at both. `stripLeft` and `stripRight` bound the columns that light it.
@@ -81,7 +81,7 @@ QPainterPath FingerPath(const FingerShape &finger)
 QPainterPath HandOutline()
 {
     const auto &fingers = LeftFingers();
-    QPainterPath path(QPointF(34, pictureHeight + 20));
+    QPainterPath path(QPointF(34, handsHeight + 20));
     path.cubicTo(QPointF(28, 152), QPointF(12, 146), fingers.at(0).At(0, -1));
     for (size_t index = 0; index < thumb; ++index) {
         AddFingerOutline(path, fingers.at(index));
@@ -105,7 +105,7 @@ QPainterPath HandOutline()
     path.cubicTo(apex + thumbShape.Side() * thumbShape.tipHalf * 0.55,
                  thumbShape.At(1, 1) + thumbShape.Axis() * roundness * 0.6, thumbShape.At(1, 1));
     path.cubicTo(thumbShape.At(0.75, 1.14), thumbShape.At(0.45, 1.02), thumbShape.At(0.1, 1.25));
-    path.lineTo(QPointF(160, pictureHeight + 20));
+    path.lineTo(QPointF(160, handsHeight + 20));
     path.closeSubpath();
     return path;
 }
@@ -118,7 +118,7 @@ public:
     HandPainter(QPainter &painter, const Theme &theme, bool right)
         : m_painter(painter)
         , m_theme(theme)
-        , m_place(right ? QTransform(-1, 0, 0, 1, pictureWidth, 0) : QTransform())
+        , m_place(right ? QTransform(-1, 0, 0, 1, handsWidth, 0) : QTransform())
         , m_outline(m_place.map(HandOutline()))
     {
     }
@@ -141,7 +141,7 @@ public:
     {
         m_painter.save();
         m_painter.setClipRect(
-            m_place.mapRect(QRectF(finger.stripLeft, 0, finger.stripRight - finger.stripLeft, pictureHeight)),
+            m_place.mapRect(QRectF(finger.stripLeft, 0, finger.stripRight - finger.stripLeft, handsHeight)),
             Qt::IntersectClip);
         const QColor accent = m_theme.Color(u"hands.lit"_s);
         m_painter.save();
@@ -164,7 +164,7 @@ private:
     /// From the hand's colours to those of the panel, so that the wrist ends in no edge.
     QBrush Fading(const QColor &top, const QColor &bottom) const
     {
-        QLinearGradient gradient(0, 0, 0, pictureHeight);
+        QLinearGradient gradient(0, 0, 0, handsHeight);
         gradient.setColorAt(0, top);
         gradient.setColorAt(0.8, bottom);
         gradient.setColorAt(1, m_theme.Color(u"panel.face"_s));
@@ -273,7 +273,7 @@ private:
     void StrokeOutline(const QColor &color)
     {
         m_painter.setBrush(Qt::NoBrush);
-        QLinearGradient gradient(0, 0, 0, pictureHeight);
+        QLinearGradient gradient(0, 0, 0, handsHeight);
         gradient.setColorAt(0, color);
         gradient.setColorAt(0.82, color);
         gradient.setColorAt(1, m_theme.Color(u"panel.face"_s));
@@ -305,7 +305,7 @@ void DrawHands(QPainter &painter, const Theme &theme, bool lit)
 
 void AddHands(PictureList &list, const Theme &theme)
 {
-    const QSize size(static_cast<int>(pictureWidth), static_cast<int>(pictureHeight));
+    const QSize size(static_cast<int>(handsWidth), static_cast<int>(handsHeight));
     list.append({u"HAND_CLEAR"_s, size, [&theme](QPainter &painter) { DrawHands(painter, theme, false); }});
     list.append({u"HAND_ON"_s, size, [&theme](QPainter &painter) { DrawHands(painter, theme, true); }});
 }

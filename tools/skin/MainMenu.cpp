@@ -9,8 +9,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int pictureWidth = 960;
-constexpr int pictureHeight = 600;
+constexpr int menuWidth = 916;
+constexpr int menuHeight = 600;
 
 void DrawHeading(QPainter &painter, const Theme &theme)
 {
@@ -31,7 +31,7 @@ void DrawButtonPlate(QPainter &painter, const Theme &theme)
 // The user's name stands at (0, 160), 528 x 30, and the buttons at (680, 220), 220 wide, down to 564.
 void AddMainMenu(PictureList &list, const Theme &theme)
 {
-    list.append({u"MAIN_BACK"_s, QSize(pictureWidth, pictureHeight), [&theme](QPainter &painter) {
+    list.append({u"MAIN_BACK"_s, QSize(menuWidth, menuHeight), [&theme](QPainter &painter) {
                      DrawHeading(painter, theme);
                      DrawButtonPlate(painter, theme);
                      DrawIllustration(painter, theme, QRectF(0, 204, 640, 376));

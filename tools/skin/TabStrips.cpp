@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// A tab's left edge is upright; its right edge leans through three points, at the top, the middle and the
-/// bottom of the strip. The mouse finds the tabs by the same corners.
+/// the bottom. The mouse finds the tabs by the same corners.
 struct TabShape
 {
     qreal left;
@@ -27,7 +27,7 @@ constexpr std::array<TabShape, 4> tabShapes{{
     {790, 950, 965, 980},
 }};
 
-constexpr qreal bottom = Panel::tabStripHeight;
+constexpr qreal stripBottom = Panel::tabStripHeight;
 
 QPainterPath TabPath(const TabShape &tab, qreal radius, qreal inset)
 {
@@ -36,15 +36,15 @@ QPainterPath TabPath(const TabShape &tab, qreal radius, qreal inset)
     const qreal rightTop = tab.rightTop - inset;
     const qreal rightBottom = tab.rightBottom - inset;
     // The control point that leads the curve through the middle point.
-    const QPointF control(2 * (tab.rightMiddle - inset) - (rightTop + rightBottom) / 2, bottom / 2);
-    QPainterPath path(QPointF(left, bottom));
+    const QPointF control(2 * (tab.rightMiddle - inset) - (rightTop + rightBottom) / 2, stripBottom / 2);
+    QPainterPath path(QPointF(left, stripBottom));
     path.lineTo(left, top + radius);
     path.quadTo(QPointF(left, top), QPointF(left + radius, top));
     path.lineTo(rightTop - radius, top);
     const qreal fall = radius * 0.6;
     path.quadTo(QPointF(rightTop, top),
-                QPointF(rightTop + fall * (tab.rightMiddle - tab.rightTop) / (bottom / 2), top + fall));
-    path.quadTo(control, QPointF(rightBottom, bottom));
+                QPointF(rightTop + fall * (tab.rightMiddle - tab.rightTop) / (stripBottom / 2), top + fall));
+    path.quadTo(control, QPointF(rightBottom, stripBottom));
     path.closeSubpath();
     return path;
 }
@@ -55,7 +55,7 @@ void DrawTab(QPainter &painter, const Theme &theme, size_t index, bool lit)
     const qreal radius = theme.Number(u"tabs.radius"_s);
     const QString state = lit ? u"tabs.lit."_s : u"tabs.plain."_s;
     painter.save();
-    painter.setClipRect(QRectF(0, 0, Panel::width, lit ? bottom : bottom - 1), Qt::IntersectClip);
+    painter.setClipRect(QRectF(0, 0, Panel::width, lit ? stripBottom : stripBottom - 1), Qt::IntersectClip);
     painter.fillPath(TabPath(tab, radius, 0), theme.Color(state + u"border"_s));
     const QPainterPath inside = TabPath(tab, radius - 1, 1);
     painter.fillPath(inside, theme.Color(state + u"face"_s));
@@ -63,7 +63,7 @@ void DrawTab(QPainter &painter, const Theme &theme, size_t index, bool lit)
     painter.fillRect(QRectF(0, 1, Panel::width, lit ? 3 : 1), theme.Color(state + u"top"_s));
     painter.restore();
 
-    const QRectF box(tab.left, 2, tab.rightMiddle - tab.left, bottom - 4);
+    const QRectF box(tab.left, 2, tab.rightMiddle - tab.left, stripBottom - 4);
     const QString label = theme.List(u"tabs.labels"_s).at(static_cast<qsizetype>(index)).toString();
     Shapes::DrawLabel(painter, box, label,
                       {theme.Number(u"tabs.textSize"_s), true, theme.Color(state + u"text"_s)});

@@ -7,32 +7,38 @@ from journey import Journey
 
 
 class Copies(Journey):
-    def is_on_screen(self, title):
-        return bool(self.program.desktop.xdotool("search", "--onlyvisible", "--name", f"^{title} *$", check=False))
-
     def test_a_second_copy_brings_the_first_to_the_front(self):
         p = self.program
         p.open()
-        window = p.desktop.xdotool("search", "--onlyvisible", "--name", "^Quorvex$").split()[0]
-        p.desktop.xdotool("windowminimize", window)
-        until(lambda: not self.is_on_screen("Login"), "the dialog to go down with its owner")
+        p.desktop.xdotool("windowminimize", p.main_window())
+        until(lambda: not p.is_on_screen("Login"), "the dialog to go down with its owner")
 
-        second = p.start()
-        until(lambda: second.poll() is not None, "the second copy's end")
-        self.assertEqual(second.returncode, 0)
-        until(lambda: self.is_on_screen("Quorvex") and self.is_on_screen("Login"), "the first copy's windows")
+        self.assertEqual(p.start_again(), 0)
+        until(lambda: p.is_on_screen("Quorvex") and p.is_on_screen("Login"), "the first copy's windows")
         p.wait_active("Login")
-        p.type("anna")
-        p.keys("Return")
-        p.see("Username:anna")
+        p.log_in("anna")
         self.assertIsNone(p.process.poll(), "the first copy goes on")
+
+    def test_a_second_copy_finds_the_dialog_over_a_drill(self):
+        p = self.program
+        p.open()
+        p.log_in("anna")
+        p.click("English typing")
+        p.click("Select a lesson")
+        p.see("Lessons", "list")
+        p.desktop.xdotool("windowminimize", p.main_window())
+        until(lambda: not p.is_on_screen("Quorvex"), "all windows to go down")
+        self.assertEqual(p.start_again(), 0)
+        p.wait_active("Quorvex", "dialog")
+        p.holds(lambda: p.screen.find("Lessons", "list").has("focused"), "the focus in the list")
 
     def test_a_killed_program_starts_again(self):
         p = self.program
         p.open()
-        p.type("anna")
-        p.keys("Return")
-        p.see("Username:anna")
+        p.log_in("anna")
+        p.click("English typing")
+        p.see("Select a lesson")
+        p.keys("f")
         p.kill()
         p.open()
         p.click("anna", "list item", times=2)

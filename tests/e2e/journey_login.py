@@ -27,15 +27,11 @@ class Login(Journey):
 
         self.log_out()
         self.assertEqual(self.users(), ["anna"])
-        p.type("ANNA")
-        p.keys("Return")
-        p.see("Username:ANNA")
+        p.log_in("ANNA")
         self.assertEqual(p.bytes("user.ini"), b"anna;\r\n", "case makes no other user")
 
         self.log_out()
-        p.type("李|x")
-        p.keys("Return")
-        p.see("Username:李|x")
+        p.log_in("李|x")
         self.assertEqual(p.bytes("user.ini"), "anna;\r\n李|x;\r\n".encode())
 
         self.log_out()

@@ -1,8 +1,8 @@
 """The program in an install folder of its own, driven by keys and mouse."""
 
 import os
+import re
 import shutil
-import signal
 
 from desktop import Missing, until
 from screen import Gone
@@ -14,14 +14,17 @@ class Program:
         self.desktop, self.screen, self.folder = desktop, screen, folder
         shutil.copytree(shipped, folder)
         self.process = None
+        self.copies = []
 
     def start(self, **environment):
         """Starts a copy of the program and returns its process."""
         sound = os.path.join(self.desktop.folder, "sound.raw")
-        return self.desktop.spawn(
+        copy = self.desktop.spawn(
             [os.path.join(self.folder, "Quorvex")], "program", cwd=self.desktop.folder,
             env={"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb", "QT_QPA_PLATFORMTHEME": "",
                  "SDL_AUDIODRIVER": "disk", "SDL_DISKAUDIOFILE": sound, **environment})
+        self.copies.append(copy)
+        return copy
 
     def open(self, **environment):
         """Starts the program and waits for the login dialog."""
@@ -34,9 +37,10 @@ class Program:
         return self.process.returncode
 
     def kill(self):
-        if self.process and self.process.poll() is None:
-            self.process.send_signal(signal.SIGKILL)
-            self.process.wait()
+        """Ends every copy at once, without a word."""
+        for copy in self.copies:
+            copy.kill()
+            copy.wait()
 
     # Files
 
@@ -67,20 +71,48 @@ class Program:
     def wait_gone(self, name, role=None):
         until(lambda: not self.screen.find(name, role), f"{name!r} to disappear")
 
-    def wait_active(self, title):
-        """Waits until the window of this title has the focus of the display; titles are compared without end spaces."""
+    def wait_active(self, title, role=None):
+        """Waits until the window of this title (without spaces at its ends) has the focus of the display."""
         def active():
-            return self.active_title() == title
-        until(active, lambda: f"{title!r} in front, where {self.active_title()!r} is")
+            shown, kind = self.active_window()
+            return shown == title and role in (None, kind)
+        until(active, lambda: f"{title!r} in front, where {self.active_window()} is")
 
-    def active_title(self):
+    def active_window(self):
+        """Title and role of the window that has the focus."""
         try:
             for window in self.screen.windows():
                 if window.has("active"):
-                    return window.name.strip()
+                    return window.name.strip(), window.role
         except Gone:
             pass
-        return ""
+        return "", ""
+
+    def is_on_screen(self, title):
+        """Whether a window of this title is mapped; accessibility does not know what the window manager hides."""
+        return bool(self.desktop.xdotool("search", "--onlyvisible", "--name", f"^{re.escape(title)} *$", check=False))
+
+    def main_window(self):
+        """The number of the main window, while it is on the screen."""
+        return self.desktop.xdotool("search", "--onlyvisible", "--name", "^Quorvex$").split()[0]
+
+    def described(self, name, description):
+        """Waits until the control of this name has this description."""
+        self.holds(lambda: self.screen.find(name).description == description,
+                   lambda: f"{name!r} to be {description!r}, where it is {self.see(name).description!r}")
+
+    def log_in(self, name):
+        """Types a name into the login dialog and waits for the menu."""
+        self.type(name)
+        self.keys("Return")
+        self.see(f"Username:{name}")
+        self.wait_active("Quorvex")
+
+    def start_again(self):
+        """Starts the program a second time, which brings this copy to the front, and waits for the second's end."""
+        second = self.start()
+        until(lambda: second.poll() is not None, "the second copy's end")
+        return second.returncode
 
     def holds(self, condition, what, limit=15.0):
         """Waits for a condition that reads controls, which may vanish meanwhile."""

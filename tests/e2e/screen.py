@@ -137,23 +137,17 @@ class Screen:
         return root.children()
 
     def windows(self):
-        """The windows that are shown, of all programs."""
+        """The windows that are shown, of all programs, the one in front first."""
         found = []
         for program in self.programs():
             try:
-                found += [window for window in program.children() if window.has("showing")]
+                for window in program.children():
+                    states = window.states()
+                    if "showing" in states:
+                        found.insert(0 if "active" in states else len(found), window)
             except Gone:
                 pass
         return found
-
-    def window(self, title):
-        for window in self.windows():
-            try:
-                if window.name == title:
-                    return window
-            except Gone:
-                pass
-        return None
 
     def find(self, name=None, role=None, showing=True):
         for window in self.windows():

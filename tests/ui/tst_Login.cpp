@@ -118,6 +118,7 @@ private Q_SLOTS:
         QVERIFY(!Delete()->isEnabled());
         if (way == u"keys"_s) {
             QTest::keyClick(NameBox(), Qt::Key_Down);
+            QCOMPARE(NameBox()->text(), u"Ann"_s);
             QTest::keyClick(List(), Qt::Key_Down);
             QTest::keyClick(List(), Qt::Key_Return);
         } else {

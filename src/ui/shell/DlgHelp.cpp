@@ -4,7 +4,9 @@
 
 #include <QListWidget>
 #include <QScreen>
+#include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextList>
 #include <QUrl>
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,7 +14,28 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int HelpMargin = 14;
-constexpr int ContentsWidth = 200;
+constexpr int ContentsWidth = 210;
+
+/// Gives a page that came from Markdown, which has no room between its lines, the look of a book's.
+void SetPageInType(QTextDocument &page)
+{
+    for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
+        QTextCursor cursor(block);
+        QTextBlockFormat shape = block.blockFormat();
+        const bool heading = shape.headingLevel() > 0;
+        shape.setLineHeight(122, QTextBlockFormat::ProportionalHeight);
+        shape.setTopMargin(heading && block.position() > 0 ? 14 : 0);
+        shape.setBottomMargin(block.textList() ? 5 : 9);
+        cursor.setBlockFormat(shape);
+        if (heading) {
+            QTextCharFormat letters;
+            letters.setFont(Public_Function::InterfaceFont(shape.headingLevel() == 1 ? 17 : 13, true));
+            letters.setForeground(QColor(62, 84, 122));
+            cursor.select(QTextCursor::BlockUnderCursor);
+            cursor.mergeCharFormat(letters);
+        }
+    }
+}
 
 } // namespace
 
@@ -38,7 +61,11 @@ DlgHelp::DlgHelp(const HelpBook &book, const QString &pageName, QWidget *owner)
     m_page->setAccessibleName(tr("Help page"));
     m_page->setFont(Public_Function::InterfaceFont(11));
     m_page->setOpenLinks(false);
-    m_page->document()->setDocumentMargin(14);
+    m_page->document()->setDocumentMargin(18);
+    QPalette pageColors = m_page->palette();
+    pageColors.setColor(QPalette::Text, QColor(40, 46, 58));
+    pageColors.setColor(QPalette::Link, QColor(30, 88, 160));
+    m_page->setPalette(pageColors);
 
     for (const HelpBook::Page &page : m_book.Pages())
         m_contents->addItem(page.title);
@@ -53,6 +80,8 @@ DlgHelp::DlgHelp(const HelpBook &book, const QString &pageName, QWidget *owner)
 
 void DlgHelp::ShowPage(qsizetype index)
 {
-    if (index >= 0 && index < m_book.Pages().size())
-        m_page->setMarkdown(m_book.Pages()[index].text);
+    if (index < 0 || index >= m_book.Pages().size())
+        return;
+    m_page->setMarkdown(m_book.Pages()[index].text);
+    SetPageInType(*m_page->document());
 }

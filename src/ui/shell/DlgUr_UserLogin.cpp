@@ -194,10 +194,12 @@ bool DlgUr_UserLogin::eventFilter(QObject *watched, QEvent *event)
             EnterTyped();
             return true;
         }
-        if (watched == TxtUserName && (key->key() == Qt::Key_Down || key->key() == Qt::Key_PageDown)) {
+        const bool downwards = key->key() == Qt::Key_Down || key->key() == Qt::Key_PageDown;
+        if (downwards && (watched == TxtUserName || SelectedName().isEmpty())) {
+            // The list's current row is not chosen until the person moves to it.
             LstUser->setFocus();
-            if (!LstUser->currentItem())
-                LstUser->setCurrentRow(0);
+            if (SelectedName().isEmpty())
+                LstUser->setCurrentRow(qMax(0, LstUser->currentRow()), QItemSelectionModel::ClearAndSelect);
             return true;
         }
         if (watched == LstUser && key->key() == Qt::Key_Delete) {

@@ -83,7 +83,7 @@ void DrawStatusRow(QPainter &painter, const Theme &theme, qreal panelTop)
 
 void DrawHintMark(QPainter &painter, const Theme &theme)
 {
-    Shapes::FillRounded(painter, QRectF(wellLeft, 661, 3, 20), 1.5, theme.Color(u"palette.accent"_s));
+    Shapes::FillRounded(painter, QRectF(wellLeft, 662, 3, 38), 1.5, theme.Color(u"palette.accent"_s));
 }
 
 } // namespace Panel

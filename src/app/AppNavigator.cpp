@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -135,5 +136,14 @@ bool AppNavigator::eventFilter(QObject *watched, QEvent *event)
             ShowHelp(window);
         return true;
     }
+    if (event->type() == QEvent::WindowActivate && watched == m_main && m_drill)
+        QTimer::singleShot(0, m_drill, [this] { PassFocusToDrill(); });
     return QObject::eventFilter(watched, event);
+}
+
+/// A task bar gives the focus to the main window, which a drill covers: keys would go where nobody sees them.
+void AppNavigator::PassFocusToDrill()
+{
+    if (m_drill && m_drill->isVisible() && m_main->isActiveWindow() && !QApplication::activeModalWidget())
+        m_drill->activateWindow();
 }

@@ -31,6 +31,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void PassFocusToDrill();
+
     QPointer<Frm_Main> m_main;
     QPointer<QWidget> m_drill;
 };

@@ -89,7 +89,7 @@ class FirstLesson(Journey):
         self.assertEqual(settings["english", "keytrain_index"], "1")
         self.assertEqual(settings["main", "ensound"], "2")
         lines = p.bytes("Data", "English", "T_Character", "Standard", "02.txt").split(b"\r\n")
-        self.assertEqual(lines, [b"fallible key training", b""] + [b"FFFFFF"] * 36 + [b""])
+        self.assertEqual(lines, [b"fallible key training", b""] + [b"ffffff"] * 36 + [b""])
 
         p.click("English typing")
         p.wait_active(DRILL)

@@ -41,3 +41,15 @@ function(quorvex_add_test name)
     set_tests_properties(${name} PROPERTIES TIMEOUT 120 ENVIRONMENT
         "QT_QPA_PLATFORM=offscreen:configfile=${CMAKE_SOURCE_DIR}/tests/support/screen1024.json;QT_QPA_PLATFORMTHEME=;SDL_AUDIODRIVER=dummy;QUORVEX_INSTALL=${CMAKE_BINARY_DIR}/install")
 endfunction()
+
+# quorvex_ship_folder(FOLDER [SOURCE]): `cmake --install` brings this folder of the install folder up to date and keeps
+# what people put or changed there. SOURCE is the folder it comes from, by default the one that the build assembles.
+function(quorvex_ship_folder folder)
+    set(source "${QUORVEX_INSTALL_FOLDER}/${folder}")
+    if(ARGC GREATER 1)
+        set(source "${ARGV1}")
+    endif()
+    install(CODE "execute_process(COMMAND \"${CMAKE_COMMAND}\" \"-DFROM=${source}\"
+        \"-DTO=\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${folder}\" -P \"${CMAKE_SOURCE_DIR}/cmake/UpdateFolder.cmake\"
+        COMMAND_ERROR_IS_FATAL ANY)")
+endfunction()

@@ -333,7 +333,7 @@ private Q_SLOTS:
         for (qsizetype size = 0; size < whole.size(); ++size)
             output.Decode(whole.first(size));
         std::mt19937 random(7);
-        for (int n = 0; n < 3000; ++n) {
+        for (int n = 0; n < 400; ++n) {
             QByteArray damaged = whole;
             for (unsigned hits = 1 + random() % 4; hits > 0; --hits)
                 damaged[static_cast<qsizetype>(random() % 48)] = static_cast<char>(random());

@@ -119,7 +119,7 @@ Picture MakeIconButton(const Theme &theme, const QString &name, const QSize &siz
 void AddTextButtons(PictureList &list, const Theme &theme)
 {
     const QJsonArray entries = theme.List(u"textButtons"_s);
-    for (const QJsonValue &entry : entries)
+    for (const auto &entry : entries)
         list.append(MakeTextButton(theme, entry.toObject()));
 }
 

@@ -180,17 +180,14 @@ void DrawKeyboard(QPainter &painter, const Theme &theme, AnsiKeyboard::Size size
 
 void AddKeyboards(PictureList &list, const Theme &theme)
 {
-    const QList<std::pair<QString, KeyState>> states{{u"KEYBOARD_NORMAL"_s, KeyState::Normal},
-                                                     {u"KEYBOARD_PROMPT"_s, KeyState::Prompt},
-                                                     {u"KEYBOARD_PRESSED"_s, KeyState::Pressed}};
-    for (const auto &[name, state] : states) {
-        list.append(
-            {name, AnsiKeyboard::PictureSize(AnsiKeyboard::Size::Large), [=, &theme](QPainter &painter) {
-                 DrawKeyboard(painter, theme, AnsiKeyboard::Size::Large, state);
-             }});
-        list.append({name + u"_SMALL"_s, AnsiKeyboard::PictureSize(AnsiKeyboard::Size::Small),
-                     [=, &theme](QPainter &painter) {
-                         DrawKeyboard(painter, theme, AnsiKeyboard::Size::Small, state);
-                     }});
+    const auto add = [&list, &theme](const QString &name, KeyState state, AnsiKeyboard::Size size) {
+        list.append({name, AnsiKeyboard::PictureSize(size),
+                     [=, &theme](QPainter &painter) { DrawKeyboard(painter, theme, size, state); }});
+    };
+    for (const auto size : {AnsiKeyboard::Size::Large, AnsiKeyboard::Size::Small}) {
+        const QString suffix = size == AnsiKeyboard::Size::Small ? u"_SMALL"_s : QString();
+        add(u"KEYBOARD_NORMAL"_s + suffix, KeyState::Normal, size);
+        add(u"KEYBOARD_PROMPT"_s + suffix, KeyState::Prompt, size);
+        add(u"KEYBOARD_PRESSED"_s + suffix, KeyState::Pressed, size);
     }
 }

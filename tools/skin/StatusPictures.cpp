@@ -9,18 +9,16 @@ using namespace Qt::Literals::StringLiterals;
 
 void AddStatusIcons(PictureList &list, const Theme &theme)
 {
-    const QList<std::pair<QString, Icon>> icons{
-        {u"ICON_TIME"_s, Icon::Clock},
-        {u"ICON_SPEED"_s, Icon::Gauge},
-        {u"ICON_SCHEDULE"_s, Icon::Steps},
-        {u"ICON_VERACITY"_s, Icon::Target},
-    };
     const int side = theme.Integer(u"status.iconSize"_s);
-    for (const auto &[name, icon] : icons) {
+    const auto add = [&list, &theme, side](const QString &name, Icon icon) {
         list.append({name, QSize(side, side), [=, &theme](QPainter &painter) {
                          DrawIcon(painter, icon, QPointF(0, 0), side, theme.Color(u"status.icon"_s));
                      }});
-    }
+    };
+    add(u"ICON_TIME"_s, Icon::Clock);
+    add(u"ICON_SPEED"_s, Icon::Gauge);
+    add(u"ICON_SCHEDULE"_s, Icon::Steps);
+    add(u"ICON_VERACITY"_s, Icon::Target);
 }
 
 namespace {

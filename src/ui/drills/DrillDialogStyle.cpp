@@ -1,0 +1,44 @@
+#include "ui/drills/DrillDialogStyle.h"
+
+#include "ui/skin/Fonts.h"
+
+#include <QGroupBox>
+#include <QListWidget>
+
+using namespace Qt::Literals::StringLiterals;
+
+void StyleDialogList(QListWidget *list)
+{
+    list->setFont(Public_Function::InterfaceFont(10));
+    list->setTextElideMode(Qt::ElideRight);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    list->setStyleSheet(
+        u"QListWidget { background: white; color: rgb(40, 46, 58); border: 1px solid rgb(141, 148, 167);"
+        " border-radius: 4px; padding: 2px; outline: none; }"
+        "QListWidget::item { padding: 4px 6px; border-radius: 3px; }"
+        "QListWidget::item:hover { background: rgb(238, 241, 247); }"
+        "QListWidget::item:selected { background: rgb(62, 84, 122); color: white; }"
+        "QListWidget::item:selected:!active { background: rgb(132, 148, 176); color: white; }"_s);
+}
+
+void StyleDialogGroup(QGroupBox *group)
+{
+    group->setFont(Public_Function::InterfaceFont(10));
+    // Drawn by the style sheet from borders and gradients, so that the dots are round and sharp at every
+    // ratio.
+    group->setStyleSheet(
+        u"QGroupBox { border: 1px solid rgb(141, 148, 167); border-radius: 6px; margin-top: 9px;"
+        " padding-top: 6px; background: rgb(233, 233, 233); color: rgb(40, 46, 58); }"
+        "QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 4px;"
+        " background: rgb(233, 233, 233); }"
+        "QRadioButton { color: rgb(40, 46, 58); spacing: 8px; padding: 2px 4px;"
+        " border: 1px solid transparent; border-radius: 4px; }"
+        "QRadioButton:focus { border-color: rgb(255, 164, 84); }"
+        "QRadioButton::indicator { width: 12px; height: 12px; border: 1px solid rgb(120, 128, 148);"
+        " border-radius: 7px; background: white; }"
+        "QRadioButton::indicator:hover { border-color: rgb(62, 84, 122); }"
+        "QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5,"
+        " fx: 0.5, fy: 0.5, stop: 0 rgb(62, 84, 122), stop: 0.5 rgb(62, 84, 122), stop: 0.56 white,"
+        " stop: 1 white); border-color: rgb(62, 84, 122); }"_s);
+}

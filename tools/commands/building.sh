@@ -35,12 +35,9 @@ configure() {
     touch "$folder/CMakeCache.txt"
 }
 
-# build PRESET TARGET...: quiet unless there is something to do, and on a terminal shows the progress on one line.
+# build PRESET TARGET...
 build() {
     local folder="$root/build/$1"
     shift
-    if ninja -C "$folder" -n "$@" 2>/dev/null | grep -q 'no work to do'; then
-        return 0
-    fi
-    ninja -C "$folder" "$@" >&2 || die "The build failed."
+    (cd "$folder" && ninja "$@") >&2 || die "The build failed."
 }

@@ -34,6 +34,7 @@ void SkinButton::SetButton(const QString &bitmap, const SkinLibrary &library, in
     const QSize strip = library.BitmapSize(bitmap);
     m_frameSize = strip.isEmpty() ? PlainSize : QSize(strip.width() / m_frames, strip.height());
     m_focusColor = library.Color(u"focus"_s, QColor(255, 164, 84));
+    m_innerFocusColor = library.Color(u"focus.inner"_s, QColor(40, 52, 76));
     resize(m_frameSize);
     update();
 }
@@ -76,6 +77,9 @@ void SkinButton::paintEvent(QPaintEvent *)
         painter.setPen(QPen(m_focusColor, 2));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+        // The dark line inside makes the ring plain to see on light buttons too.
+        painter.setPen(QPen(m_innerFocusColor, 1));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), 3, 3);
     }
 }
 

@@ -33,6 +33,7 @@ protected:
 private:
     QString m_bitmap;
     QSize m_frameSize;
-    QColor m_focusColor;
+    QColor m_focusColor{255, 164, 84};
+    QColor m_innerFocusColor{40, 52, 76};
     int m_frames = 4;
 };

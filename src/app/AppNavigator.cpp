@@ -2,6 +2,8 @@
 
 #include "core/shell/Public_Define.h"
 #include "platform/Paths.h"
+#include "platform/Services.h"
+#include "platform/SoundPlayer.h"
 #include "ui/drills/frmEn_KeyTrain_Basic.h"
 #include "ui/shell/DlgHelp.h"
 #include "ui/shell/Frm_Main.h"
@@ -82,6 +84,8 @@ void AppNavigator::OpenDrill(DrillKind kind, QWidget *instead)
     }
     if (!CanOpenDrill(kind))
         return;
+    if (Shared().EnSound != 0)
+        PlatformServices().sound->WarmUp();
     auto *drill = new frmEn_KeyTrain_Basic(*this, m_main);
     m_drill = drill;
     drill->Open();

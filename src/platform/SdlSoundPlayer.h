@@ -31,8 +31,7 @@ public:
     SdlSoundPlayer &operator=(const SdlSoundPlayer &) = delete;
 
     void Play(const QString &nativePath, bool wait) override;
-    /// Begins to open the device, so that the first sound is as quick as the others.
-    void WarmUp();
+    void WarmUp() override;
 
 private:
     struct Shared;

@@ -2,13 +2,13 @@
 
 #include <QSize>
 
-/// The windows are laid out for a screen of at least this many logical pixels; where the desktop's scale leaves
-/// fewer, the program lowers its own.
+/// The windows are laid out for a screen of at least this many logical pixels; where the desktop's scale
+/// leaves fewer, the program lowers its own.
 inline constexpr QSize SmallestLayout{1024, 748};
 
 /// The factor by which the scale must change so that the layout fits a screen of `logical` pixels, each of
-/// `devicePixelRatio` real ones: 1 when it fits. A screen with too few real pixels across stays as it is; it is
-/// refused.
+/// `devicePixelRatio` real ones: 1 when it fits. A screen with too few real pixels across stays as it is; it
+/// is refused.
 double ScaleToFit(const QSize &logical, double devicePixelRatio);
 
 /// Lowers the toolkit's scale by `factor` for an application object that is made after this call.

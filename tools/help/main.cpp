@@ -1,5 +1,6 @@
-// Turns the help pages of a folder, Markdown files called `<order>-<page name>.md`, into the help file of the install
-// folder: an SQLite file with the table page(position, name, title, text). The title is the page's first heading.
+// Turns the help pages of a folder, Markdown files called `<order>-<page name>.md`, into the help file of the
+// install folder: an SQLite file with the table page(position, name, title, text). The title is the page's
+// first heading.
 
 #include <QDir>
 #include <QFile>
@@ -37,9 +38,10 @@ int main(int argc, char **argv)
     if (sqlite3_open(target.toUtf8().constData(), &opened) != SQLITE_OK)
         return Fail(u"cannot make "_s + target);
     const std::unique_ptr<sqlite3, int (*)(sqlite3 *)> database(opened, sqlite3_close);
-    sqlite3_exec(opened,
-                 "BEGIN; CREATE TABLE page(position INTEGER PRIMARY KEY, name TEXT UNIQUE, title TEXT, text TEXT)",
-                 nullptr, nullptr, nullptr);
+    sqlite3_exec(
+        opened,
+        "BEGIN; CREATE TABLE page(position INTEGER PRIMARY KEY, name TEXT UNIQUE, title TEXT, text TEXT)",
+        nullptr, nullptr, nullptr);
 
     int position = 0;
     const QStringList files = folder.entryList({u"*.md"_s}, QDir::Files, QDir::Name);
@@ -64,5 +66,6 @@ int main(int argc, char **argv)
     }
     if (position == 0)
         return Fail(u"no pages in "_s + folder.path());
-    return sqlite3_exec(opened, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK ? 0 : Fail(u"cannot write"_s);
+    return sqlite3_exec(opened, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK ? 0
+                                                                                  : Fail(u"cannot write"_s);
 }

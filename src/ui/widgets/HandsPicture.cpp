@@ -49,6 +49,7 @@ void HandsPicture::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     const QPoint base(m_baseOffset, 0);
     for (const QRect &exposed : event->region()) {
+        painter.setClipRect(exposed); // copied fast only through a clip that is one rectangle
         m_plain.Draw(painter, exposed.topLeft(), exposed.translated(base));
         const QRect lit = exposed & StripRect();
         if (!lit.isEmpty() && !m_lit.Draw(painter, lit.topLeft(), lit.translated(base)))

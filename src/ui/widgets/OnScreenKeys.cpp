@@ -144,21 +144,26 @@ void OnScreenKeys::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     const bool skinned = !m_normalPicture.For(devicePixelRatioF()).isNull();
-    for (const QRect &rect : event->region()) {
+    for (const QRect &exposed : event->region()) {
+        painter.setClipRect(exposed); // copied fast only through a clip that is one rectangle
         if (skinned)
-            m_normalPicture.Draw(painter, rect.topLeft(), rect);
+            m_normalPicture.Draw(painter, exposed.topLeft(), exposed);
+        for (int key = 0; key < KeyCount(); ++key) {
+            const QRect rect = KeyRect(key);
+            if (exposed.intersects(rect))
+                PaintKey(painter, key, rect, skinned);
+        }
     }
-    for (int key = 0; key < KeyCount(); ++key) {
-        const QRect rect = KeyRect(key);
-        if (!event->region().intersects(rect))
-            continue;
-        if (!skinned)
-            PaintPlainKey(painter, key);
-        else if (IsPressed(key))
-            m_pressedPicture.Draw(painter, rect.topLeft(), rect);
-        else if (IsPrompted(key))
-            m_promptPicture.Draw(painter, rect.topLeft(), rect);
-    }
+}
+
+void OnScreenKeys::PaintKey(QPainter &painter, int key, const QRect &rect, bool skinned)
+{
+    if (!skinned)
+        PaintPlainKey(painter, key);
+    else if (IsPressed(key))
+        m_pressedPicture.Draw(painter, rect.topLeft(), rect);
+    else if (IsPrompted(key))
+        m_promptPicture.Draw(painter, rect.topLeft(), rect);
 }
 
 void OnScreenKeys::PaintPlainKey(QPainter &painter, int key) const

@@ -71,6 +71,7 @@ private:
     void UpdateKey(std::optional<int> key);
     void UpdatePrompt();
     void DescribeState();
+    void PaintKey(QPainter &painter, int key, const QRect &rect, bool skinned);
     void PaintPlainKey(QPainter &painter, int key) const;
 
     std::optional<char32_t> m_promptCharacter;

@@ -19,7 +19,13 @@ void StyleDialogList(QListWidget *list)
         "QListWidget::item { padding: 4px 6px; border-radius: 3px; }"
         "QListWidget::item:hover { background: rgb(238, 241, 247); }"
         "QListWidget::item:selected { background: rgb(62, 84, 122); color: white; }"
-        "QListWidget::item:selected:!active { background: rgb(132, 148, 176); color: white; }"_s);
+        "QListWidget::item:selected:!active { background: rgb(132, 148, 176); color: white; }"
+        "QScrollBar:vertical { background: transparent; width: 12px; margin: 2px; }"
+        "QScrollBar::handle:vertical { background: rgb(190, 197, 212); border-radius: 4px;"
+        " min-height: 24px; }"
+        "QScrollBar::handle:vertical:hover { background: rgb(132, 148, 176); }"
+        "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
+        "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }"_s);
 }
 
 void StyleDialogGroup(QGroupBox *group)
@@ -33,7 +39,7 @@ void StyleDialogGroup(QGroupBox *group)
         "QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 4px;"
         " background: rgb(233, 233, 233); }"
         "QRadioButton { color: rgb(40, 46, 58); spacing: 8px; padding: 2px 4px;"
-        " border: 1px solid transparent; border-radius: 4px; }"
+        " border: 1px solid transparent; border-radius: 4px; outline: none; }"
         "QRadioButton:focus { border-color: rgb(255, 164, 84); }"
         "QRadioButton::indicator { width: 12px; height: 12px; border: 1px solid rgb(120, 128, 148);"
         " border-radius: 7px; background: white; }"

@@ -65,7 +65,8 @@ class Desktop:
              "-noreset", "-fbdir", self.folder])
         self.environment["DISPLAY"] = f":{number}"
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_and_read(
-            ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address={}"])
+            ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address={}",
+             f"--address=unix:path={self.folder}/bus"])
         self.spawn(["openbox", "--config-file", OPENBOX], "openbox")
         # A window that appears before the window manager may never get the focus.
         until(self._manager_answers, "the window manager")

@@ -1,4 +1,5 @@
-"""Runs the journeys: python3 journey.py --build build/release [--keep] [journey_login ...]
+#!/usr/bin/python3 -B
+"""Runs the journeys: tests/e2e/journey.py --build build/release [--keep] [journey_login ...]
 
 Each journey is a method test_* of a class derived from Journey in a file journey_*.py. It gets the program in a fresh
 copy of the install folder. When one fails, the screen of that moment (<name>.png), what accessibility saw (<name>.txt)

@@ -1,7 +1,7 @@
 # Configuring and building. Sourced by the commands; wants the root folder in $root.
 
 say() {
-    printf '%s\n' "$*" | fold -s -w 110 >&2
+    printf '%s\n' "$*" >&2
 }
 
 die() {

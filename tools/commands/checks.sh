@@ -25,15 +25,16 @@ check_format() {
 # summarize RESULTS PASSED FAILED: the closing lines, from what ctest wrote and from further checks that passed and
 # failed. Succeeds when all is well.
 summarize() {
-    local all=0 bad=0 left=0
+    local all=0 bad=0 left=0 counts
     if [ -e "$1" ]; then
-        read -r all bad left < <(awk '
+        counts=$(awk '
             function number(name) {
                 return match($0, "[ \t]" name "=\"[0-9]+") ? substr($0, RSTART + length(name) + 3, RLENGTH - length(name) - 3) : 0
             }
             /<testcase/ { exit }
             { all += number("tests"); bad += number("failures"); left += number("disabled") + number("skipped") }
             END { print all + 0, bad + 0, left + 0 }' "$1")
+        read -r all bad left <<<"$counts"
     fi
     echo
     [ "$all" -gt 0 ] || echo "No test was run."

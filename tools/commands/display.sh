@@ -48,6 +48,7 @@ run_on_vnc() {
         cat "$folder/xvnc.log" >&2
         die "The private display did not start."
     }
+    export XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$folder}"
     export DISPLAY=":$number" XAUTHORITY="$folder/client" QT_QPA_PLATFORM=xcb
     xauth -q -f "$XAUTHORITY" add "$DISPLAY" . "$cookie" 2>/dev/null
     openbox --config-file "$root/tools/commands/openbox.xml" >"$folder/openbox.log" 2>&1 &

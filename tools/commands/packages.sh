@@ -10,11 +10,11 @@ package_names() {
 
 # missing_packages SECTION...: those of them that are not installed, by one question to the package database.
 missing_packages() {
-    local names=() line
-    while IFS= read -r line; do names+=("$line"); done < <(package_names "$@")
-    [ ${#names[@]} -gt 0 ] || return 0
-    dpkg-query -W -f '${Package} ${db:Status-Status}\n' "${names[@]}" 2>/dev/null |
-        awk -v wanted="${names[*]}" '
+    local names
+    names=$(package_names "$@" | tr '\n' ' ')
+    # shellcheck disable=SC2086 # the names are words
+    dpkg-query -W -f '${Package} ${db:Status-Status}\n' $names 2>/dev/null |
+        awk -v wanted="${names% }" '
             $2 == "installed" { installed[$1] = 1 }
             END { n = split(wanted, name, " "); for (i = 1; i <= n; i++) if (!(name[i] in installed)) print name[i] }'
 }
@@ -33,7 +33,7 @@ can_install() {
     [ "$(id -u)" = 0 ] || { command -v sudo >/dev/null 2>&1 && sudo -n true 2>/dev/null; }
 }
 
-# install_packages NAME...: quiet when all goes well; shows apt's own words when it does not.
+# install_packages NAME...: quiet when all goes well; shows apt's last words when it does not.
 install_packages() {
     local log status=0
     log=$(mktemp) || return 1
@@ -44,7 +44,7 @@ install_packages() {
         as_root "${apt[@]}" update
         as_root "${apt[@]}" install "$@"
     } >"$log" 2>&1 </dev/null || status=$?
-    [ "$status" = 0 ] || { grep -E '^(E|Err):?' "$log" || tail -n 15 "$log"; } >&2
+    [ "$status" = 0 ] || { grep '^E:' "$log" || cat "$log"; } | tail -n 5 >&2
     rm -f "$log"
     return "$status"
 }

@@ -44,7 +44,7 @@ constexpr std::array<TabColumns, 4> WideTabs{{{0, 370, 390, 410, 0, 0},
 
 QPolygon TabPolygon(int tab, const DrillLayout &layout)
 {
-    const TabColumns &x = layout.Pick(NarrowTabs, WideTabs)[static_cast<std::size_t>(tab)];
+    const TabColumns x = layout.Pick(NarrowTabs, WideTabs)[static_cast<std::size_t>(tab)];
     const int middle = layout.Pick(15, 20);
     const int bottom = layout.Pick(30, 40);
     const QPolygon corners({QPoint(x[0], 0), QPoint(x[1], 0), QPoint(x[2], middle), QPoint(x[3], bottom),

@@ -88,7 +88,7 @@ void AppNavigator::OpenDrill(DrillKind kind, QWidget *instead)
         PlatformServices().sound->WarmUp();
     auto *drill = new frmEn_KeyTrain_Basic(*this, m_main);
     m_drill = drill;
-    drill->Open();
+    drill->ShowDrill();
     if (instead)
         instead->close();
 }

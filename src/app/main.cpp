@@ -1,5 +1,5 @@
 #include "app/AppNavigator.h"
-#include "app/ScreenFit.h"
+
 #include "core/shell/Public_Define.h"
 #include "platform/Paths.h"
 #include "platform/SdlSoundPlayer.h"
@@ -7,6 +7,7 @@
 #include "platform/SingleInstance.h"
 #include "platform/TerminationSignals.h"
 #include "ui/shell/Frm_Main.h"
+#include "ui/shell/ScreenFit.h"
 #include "ui/shell/ShowMessage.h"
 #include "ui/skin/Fonts.h"
 #include "ui/skin/SkinLibrary.h"
@@ -37,9 +38,9 @@ std::unique_ptr<QApplication> MakeApplication(int &argc, char **argv)
     auto application = std::make_unique<QApplication>(argc, argv);
     const double factor = ScaleToFit(QGuiApplication::primaryScreen()->size(),
                                      QGuiApplication::primaryScreen()->devicePixelRatio());
-    if (factor < 1.0) {
+    if (factor != 1.0) {
         application.reset();
-        LowerScale(factor);
+        ChangeScale(factor);
         application = std::make_unique<QApplication>(argc, argv);
     }
     return application;

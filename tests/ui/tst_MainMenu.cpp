@@ -3,6 +3,7 @@
 #include "support/SkinnedInstall.h"
 #include "ui/shell/DlgHelp.h"
 #include "ui/shell/Frm_Main.h"
+#include "ui/shell/ScreenFit.h"
 #include "ui/skin/SkinLibrary.h"
 #include "ui/widgets/SkinButton.h"
 
@@ -81,6 +82,32 @@ private Q_SLOTS:
         const auto buttons = m_menu->findChildren<SkinButton *>();
         for (const SkinButton *button : buttons)
             QVERIFY2(QRect(QPoint(), screen).contains(button->geometry()), qPrintable(button->objectName()));
+    }
+
+    void ScaleFitsTheScreen_data()
+    {
+        QTest::addColumn<QSize>("logical");
+        QTest::addColumn<double>("ratio");
+        QTest::addColumn<double>("factor");
+        QTest::newRow("smallest") << QSize(1024, 768) << 1.0 << 1.0;
+        QTest::newRow("4K at 2") << QSize(1920, 1080) << 2.0 << 1.0;
+        QTest::newRow("full HD at 2") << QSize(960, 540) << 2.0 << 540.0 / 748;
+        QTest::newRow("too wide a scale") << QSize(512, 800) << 2.0 << 0.5;
+        QTest::newRow("low screen") << QSize(1024, 600) << 1.0 << 1.0;
+        QTest::newRow("low screen at 1.5") << QSize(853, 480) << 1.5 << 1 / 1.5;
+        QTest::newRow("narrow screen, which is refused") << QSize(800, 600) << 1.0 << 1.0;
+        QTest::newRow("scaled below 1 by the environment") << QSize(2048, 1536) << 0.5 << 2.0;
+    }
+
+    void ScaleFitsTheScreen()
+    {
+        QFETCH(QSize, logical);
+        QFETCH(double, ratio);
+        QFETCH(double, factor);
+        const double found = ScaleToFit(logical, ratio);
+        QVERIFY2(qAbs(found - factor) < 0.001, qPrintable(QString::number(found)));
+        if (found < 1.0 && found * ratio > 1.0)
+            QVERIFY(logical.height() / found >= SmallestLayout.height());
     }
 
     void EntriesLeadToTheirWindows()

@@ -54,14 +54,13 @@ const SqliteFile &SkinLibrary::File() const
     return *m_file;
 }
 
-QPixmap SkinLibrary::Bitmap(const QString &name, qreal devicePixelRatio) const
+QPixmap SkinLibrary::Drawn(const QString &name, qreal devicePixelRatio) const
 {
     const int scale = devicePixelRatio > 1.0 ? 2 : 1;
-    const QString key = u"%1%2@%3"_s.arg(m_keyPrefix, name, QString::number(devicePixelRatio));
+    const QString key = m_keyPrefix + name + (scale == 2 ? "@2"_L1 : "@1"_L1);
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap))
         return pixmap;
-
     QByteArray png;
     File().Query("SELECT png FROM bitmap WHERE name = ? AND scale = ?", {name, scale},
                  [&png](const SqliteFile::Row &row) {
@@ -71,8 +70,32 @@ QPixmap SkinLibrary::Bitmap(const QString &name, qreal devicePixelRatio) const
     if (png.isEmpty() || !pixmap.loadFromData(png, "PNG"))
         return {};
     pixmap.setDevicePixelRatio(scale);
-    if (devicePixelRatio != scale) {
-        // Between the two drawn sizes: fitted once here, so that painting never scales.
+    QPixmapCache::insert(key, pixmap);
+    return pixmap;
+}
+
+QPixmap SkinLibrary::Bitmap(const QString &name, qreal devicePixelRatio) const
+{
+    return Frame(name, 0, 1, devicePixelRatio);
+}
+
+QPixmap SkinLibrary::Frame(const QString &strip, int frame, int frames, qreal devicePixelRatio) const
+{
+    const bool isFitted = devicePixelRatio != 1.0 && devicePixelRatio != 2.0;
+    if (!isFitted && frames == 1)
+        return Drawn(strip, devicePixelRatio);
+    const QString key = u"%1%2/%3/%4@%5"_s.arg(m_keyPrefix, strip, QString::number(frame),
+                                               QString::number(frames), QString::number(devicePixelRatio));
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap))
+        return pixmap;
+    const QPixmap drawn = Drawn(strip, devicePixelRatio);
+    if (drawn.isNull())
+        return {};
+    // Cut out before it is fitted: else the colours of the next frame would run into this one's edge.
+    const int width = drawn.width() / frames;
+    pixmap = drawn.copy(frame * width, 0, width, drawn.height());
+    if (isFitted) {
         const QSize device = (pixmap.deviceIndependentSize() * devicePixelRatio).toSize();
         pixmap = pixmap.scaled(device, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         pixmap.setDevicePixelRatio(devicePixelRatio);

@@ -20,6 +20,9 @@ public:
     /// then.
     QPixmap Bitmap(const QString &name, qreal devicePixelRatio) const;
 
+    /// One of the `frames` pictures of equal width that stand side by side in a strip.
+    QPixmap Frame(const QString &strip, int frame, int frames, qreal devicePixelRatio) const;
+
     /// The picture's size in logical pixels, empty when there is none.
     QSize BitmapSize(const QString &name) const;
 
@@ -30,6 +33,8 @@ public:
     bool IsUsable() const;
 
 private:
+    /// The picture as it was drawn for the ratio, not yet fitted to it.
+    QPixmap Drawn(const QString &name, qreal devicePixelRatio) const;
     const SqliteFile &File() const;
 
     QString m_path;

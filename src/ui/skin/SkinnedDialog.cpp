@@ -80,11 +80,11 @@ void SkinnedDialog::PaintFrame(QPainter &painter) const
     if (bar.isNull()) {
         painter.fillRect(0, 0, width(), titleHeight, Public_Function::PlainGround);
     } else {
-        // The ends of the bar hold its corners; only what is between them is stretched.
+        // The ends of the bar hold its corners; only its middle is stretched, which is the same all along.
         const qreal end = 2 * ratio;
         const qreal h = bar.height();
-        painter.drawPixmap(QRectF(1, 0, width() - 2, titleHeight), bar,
-                           QRectF(ratio, 0, bar.width() - end, h));
+        const QRectF middle(bar.width() / 2 - 1, 0, 2, h);
+        painter.drawPixmap(QRectF(1, 0, width() - 2, titleHeight), bar, middle);
         painter.drawPixmap(QRectF(0, 0, 2, titleHeight), bar, QRectF(0, 0, end, h));
         painter.drawPixmap(QRectF(width() - 2, 0, 2, titleHeight), bar, QRectF(bar.width() - end, 0, end, h));
     }

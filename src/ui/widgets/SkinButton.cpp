@@ -57,18 +57,16 @@ void SkinButton::paintEvent(QPaintEvent *)
     else if (hasFocus() && m_frames > Focused)
         frame = Focused;
 
-    const qreal ratio = devicePixelRatioF();
-    const QPixmap strip = SkinLibrary().Bitmap(m_bitmap, ratio);
-    if (strip.isNull()) {
+    const QPixmap look =
+        SkinLibrary().Frame(m_bitmap, qMin(frame, m_frames - 1), m_frames, devicePixelRatioF());
+    if (look.isNull()) {
         painter.fillRect(rect(), frame == Pressed ? QColor(190, 195, 206) : QColor(226, 229, 236));
         painter.setPen(isEnabled() ? QColor(60, 70, 90) : QColor(150, 155, 165));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
         painter.setFont(Public_Function::InterfaceFont(9));
         painter.drawText(rect(), Qt::AlignCenter, accessibleName());
     } else {
-        const qreal frameWidth = strip.width() / static_cast<qreal>(m_frames);
-        painter.drawPixmap(QRectF(QPointF(0, 0), QSizeF(m_frameSize)), strip,
-                           QRectF(qMin(frame, m_frames - 1) * frameWidth, 0, frameWidth, strip.height()));
+        painter.drawPixmap(0, 0, look);
     }
     // A strip of five frames brings its own focus look; it is not shown while the button is hovered or
     // pressed.

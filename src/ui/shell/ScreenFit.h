@@ -7,9 +7,10 @@
 inline constexpr QSize SmallestLayout{1024, 748};
 
 /// The factor by which the scale must change so that the layout fits a screen of `logical` pixels, each of
-/// `devicePixelRatio` real ones: 1 when it fits. A screen with too few real pixels across stays as it is; it
-/// is refused.
+/// `devicePixelRatio` real ones: 1 when it fits. The scale never goes below one real pixel for a logical one,
+/// where the toolkit no longer paints right. A screen with too few real pixels across stays as it is; it is
+/// refused.
 double ScaleToFit(const QSize &logical, double devicePixelRatio);
 
-/// Lowers the toolkit's scale by `factor` for an application object that is made after this call.
-void LowerScale(double factor);
+/// Changes the toolkit's scale by `factor` for an application object that is made after this call.
+void ChangeScale(double factor);

@@ -25,7 +25,7 @@ public:
         m_install.Write(u"Data/English/T_Character/Standard/00.txt"_s, lesson);
         m_drill = std::make_unique<frmEn_KeyTrain_Basic>(m_navigator, nullptr);
         m_drill->setAttribute(Qt::WA_DeleteOnClose, false);
-        m_drill->Open();
+        m_drill->ShowDrill();
         QCoreApplication::processEvents();
     }
 

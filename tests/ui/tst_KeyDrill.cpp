@@ -72,7 +72,7 @@ private:
         if (index != 0)
             Store(u"KeyTrain_Index"_s, QString::number(index));
         m_drill = new frmEn_KeyTrain_Basic(*m_navigator, m_owner.get());
-        m_drill->Open();
+        m_drill->ShowDrill();
         QVERIFY(QTest::qWaitForWindowActive(m_drill));
         QTest::qWait(0);
     }

@@ -97,7 +97,7 @@ DrillWindow::DrillWindow(const DrillFacts &facts, Navigator &navigator, QWidget 
     });
 }
 
-void DrillWindow::Open()
+void DrillWindow::ShowDrill()
 {
     m_layout = CalcLayoutMode(QSize(AreaWidth(), Shared().LayoutHeight()));
     if (m_layout.mode != LayoutMode::None)

@@ -46,7 +46,7 @@ class DrillWindow : public QDialog
 
 public:
     /// Lays the window out, shows it and loads the lesson.
-    void Open();
+    void ShowDrill();
 
     void reject() override;
 

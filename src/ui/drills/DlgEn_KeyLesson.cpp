@@ -3,7 +3,7 @@
 #include "core/drills/KeyLesson.h"
 #include "core/shell/Public_Define.h"
 #include "platform/Files.h"
-#include "ui/drills/DrillDialogStyle.h"
+#include "ui/skin/DialogStyle.h"
 #include "ui/widgets/SkinButton.h"
 
 #include <QListWidget>
@@ -21,7 +21,7 @@ DlgEn_KeyLesson::DlgEn_KeyLesson(QWidget *owner)
     lstLesson->setObjectName(u"lstLesson"_s);
     lstLesson->setAccessibleName(tr("Lessons"));
     lstLesson->setGeometry(20, TitleHeight() + 16, width() - 40, height() - TitleHeight() - 16 - 62);
-    StyleDialogList(lstLesson);
+    Public_Function::StyleDialogList(lstLesson);
 
     BtnOk->move(0, height() - 45);
     BtnCancel->move(0, height() - 45);

@@ -1,6 +1,6 @@
 #include "ui/drills/DlgEn_KeyTrainSetting.h"
 
-#include "ui/drills/DrillDialogStyle.h"
+#include "ui/skin/DialogStyle.h"
 #include "ui/widgets/SkinButton.h"
 
 #include <QGroupBox>
@@ -27,7 +27,7 @@ DlgEn_KeyTrainSetting::DlgEn_KeyTrainSetting(QWidget *owner)
         column->addWidget(option);
         opnSetting[mode] = option;
     }
-    StyleDialogGroup(group);
+    Public_Function::StyleDialogGroup(group);
 
     BtnOk->move(0, height() - 45);
     BtnCancel->move(0, height() - 45);

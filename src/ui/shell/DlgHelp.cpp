@@ -1,5 +1,6 @@
 #include "ui/shell/DlgHelp.h"
 
+#include "ui/skin/DialogStyle.h"
 #include "ui/skin/Fonts.h"
 
 #include <QListWidget>
@@ -54,12 +55,13 @@ DlgHelp::DlgHelp(const HelpBook &book, const QString &pageName, QWidget *owner)
     m_contents->setGeometry(HelpMargin, top, ContentsWidth, contentHeight);
     m_contents->setObjectName(u"lstHelpPages"_s);
     m_contents->setAccessibleName(tr("Help pages"));
-    m_contents->setFont(Public_Function::InterfaceFont(10));
+    Public_Function::StyleDialogList(m_contents);
     const int pageLeft = HelpMargin + ContentsWidth + 10;
     m_page->setGeometry(pageLeft, top, width() - pageLeft - HelpMargin, contentHeight);
     m_page->setObjectName(u"txtHelpPage"_s);
     m_page->setAccessibleName(tr("Help page"));
     m_page->setFont(Public_Function::InterfaceFont(11));
+    Public_Function::StyleDialogPage(m_page);
     m_page->setOpenLinks(false);
     m_page->document()->setDocumentMargin(18);
     QPalette pageColors = m_page->palette();

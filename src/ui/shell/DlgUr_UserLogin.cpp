@@ -2,6 +2,7 @@
 
 #include "core/shell/Public_Define.h"
 #include "ui/shell/ShowMessage.h"
+#include "ui/skin/DialogStyle.h"
 #include "ui/skin/Fonts.h"
 #include "ui/skin/SkinLibrary.h"
 #include "ui/widgets/SkinButton.h"
@@ -59,17 +60,13 @@ DlgUr_UserLogin::DlgUr_UserLogin(QWidget *owner)
     TxtUserName->setPlaceholderText(tr("Type or choose a name"));
     TxtUserName->setMaxLength(LongestName);
     TxtUserName->setValidator(new NameValidator(TxtUserName));
-    TxtUserName->setFont(Public_Function::InterfaceFont(10));
+    Public_Function::StyleDialogBox(TxtUserName);
     TxtUserName->installEventFilter(this);
 
     LstUser->setObjectName(u"LstUser"_s);
     LstUser->setAccessibleName(tr("Users"));
-    LstUser->setFont(Public_Function::InterfaceFont(10));
-    LstUser->setUniformItemSizes(true);
+    Public_Function::StyleDialogList(LstUser, QColor(233, 251, 251));
     LstUser->installEventFilter(this);
-    QPalette listColors = LstUser->palette();
-    listColors.setColor(QPalette::Base, QColor(233, 251, 251));
-    LstUser->setPalette(listColors);
 
     LayoutLoginButtons();
     const int content = width() - 2 * Margin;

@@ -60,9 +60,12 @@ class Desktop:
             raise
 
     def _start(self):
+        # A display of its own number is still open to everybody who takes that number for theirs, so it has a key. A
+        # key held down does not repeat: on a busy machine it may stay down for long.
+        self._write_key()
         number = self._start_and_read(
             ["Xvfb", "-displayfd", "{}", "-screen", "0", f"{self.width}x{self.height}x24", "-nolisten", "tcp",
-             "-noreset", "-fbdir", self.folder])
+             "-noreset", "-r", "-auth", self.environment["XAUTHORITY"], "-fbdir", self.folder])
         self.environment["DISPLAY"] = f":{number}"
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_and_read(
             ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address={}",
@@ -71,6 +74,15 @@ class Desktop:
         # A window that appears before the window manager may never get the focus.
         until(self._manager_answers, "the window manager")
         os.environ.update(self.environment)
+
+    def _write_key(self):
+        """Writes a random key, good for any display, in the form of Xau files: length and bytes of each field."""
+        self.environment["XAUTHORITY"] = os.path.join(self.folder, "key")
+        fields = [b"", b"", b"MIT-MAGIC-COOKIE-1", os.urandom(16)]
+        any_address = 65535
+        with open(self.environment["XAUTHORITY"], "wb") as file:
+            file.write(struct.pack(">H", any_address)
+                       + b"".join(struct.pack(">H", len(field)) + field for field in fields))
 
     def _manager_answers(self):
         return "0x" in self.output(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"])

@@ -61,6 +61,7 @@ class Journey(unittest.TestCase):
             file.write(Stage.screen.tree())
         with open(base + ".log", "w", encoding="utf-8") as file:
             file.write(Stage.desktop.log("program"))
+            file.write(f"Exit codes: {[copy.poll() for copy in self.program.copies]}\n")
         print(f"\nThe failing moment: {base}.png, .txt and .log", file=sys.stderr)
         if Stage.keep:
             input(f"Kept: DISPLAY={Stage.desktop.environment['DISPLAY']} and {self.program.folder}. Enter ends it. ")

@@ -31,8 +31,8 @@ class Login(Journey):
         self.assertEqual(p.bytes("user.ini"), b"anna;\r\n", "case makes no other user")
 
         self.log_out()
-        p.log_in("李|x")
-        self.assertEqual(p.bytes("user.ini"), "anna;\r\n李|x;\r\n".encode())
+        p.log_in("b|x")
+        self.assertEqual(p.bytes("user.ini"), b"anna;\r\nb|x;\r\n")
 
         self.log_out()
         p.click("anna", "list item", times=2)
@@ -60,11 +60,11 @@ class Login(Journey):
         p = self.program
         os.makedirs(p.path("Users", "anna"))
         with open(p.path("user.ini"), "wb") as file:
-            file.write(b"anna;\r\nno user\r\n\r\nbob;\r\n")
+            file.write("anna;\r\nno user\r\n\r\n李;\r\n".encode())
         with open(p.path("Users", "anna", "Setting.ini"), "wb") as file:
             file.write(b"[Main]\r\nEnSound=2\r\n")
         p.open()
-        self.assertEqual(self.users(), ["anna", "bob"])
+        self.assertEqual(self.users(), ["anna", "李"])
         self.assertFalse(p.see("Delete").has("enabled"), "nobody is chosen yet")
 
         p.click("anna", "list item")
@@ -81,14 +81,14 @@ class Login(Journey):
         p.wait_active("Confirm")
         p.click("Yes")
         p.wait_gone("anna", "list item")
-        self.assertEqual(p.bytes("user.ini"), b"bob;\r\n")
+        self.assertEqual(p.bytes("user.ini"), "李;\r\n".encode())
         self.assertFalse(os.path.exists(p.path("Users", "anna")))
 
-        p.click("bob", "list item")
+        p.click("李", "list item")
         p.keys("Delete")
         p.wait_active("Confirm")
         p.keys("Return")
-        p.wait_gone("bob", "list item")
+        p.wait_gone("李", "list item")
         self.assertEqual(p.bytes("user.ini"), b"")
 
     def test_a_drill_wants_a_user(self):

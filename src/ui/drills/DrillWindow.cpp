@@ -187,7 +187,7 @@ void DrillWindow::PlaceLabels()
 void DrillWindow::PlaceStatusIcons()
 {
     // The panel names each item; its icon stands in front of the name, the progress bar behind.
-    const int middle = labTime->geometry().center().y();
+    const int middle = labTime->y() + labTime->height() / 2;
     const int iconTop = middle - SkinLibrary().BitmapSize(u"ICON_TIME"_s).height() / 2;
     const auto icon = [&](int narrowLeft, int wideLeft) {
         return QPoint(m_layout.origin.x() + m_layout.Pick(narrowLeft, wideLeft), iconTop);
@@ -367,12 +367,7 @@ void DrillWindow::keyReleaseEvent(QKeyEvent *event)
 void DrillWindow::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    // Rectangle by rectangle: pictures are copied much faster through a clip that is one rectangle.
-    for (const QRect &exposed : event->region()) {
-        painter.setClipRect(exposed);
-        Public_Function::PaintDrillWindow(m_facts.skinKind, painter, exposed, m_anchors);
-    }
-    painter.setClipping(false);
+    Public_Function::PaintDrillWindow(m_facts.skinKind, painter, event->region(), m_anchors);
     if (event->rect().top() < TitleZone)
         Public_Function::DrawWindowTitle(painter, Public_Function::ScreenMode(), m_title);
     Public_Function::DrawWindowEdge(painter, size());

@@ -7,6 +7,7 @@
 class QKeyEvent;
 class QPainter;
 class QRect;
+class QRegion;
 class QSize;
 class QWidget;
 class SkinLibrary;
@@ -31,7 +32,7 @@ inline constexpr QColor PlainGround{52, 66, 92};
 
 /// Paints what lies in `exposed` of a drill or test window: the tiled ground, the module label and background
 /// of `kind` (0 to 23) at positions 0 and 1, and the four status icons at positions 2 to 5.
-void PaintDrillWindow(int kind, QPainter &painter, const QRect &exposed, const QList<QPoint> &positions);
+void PaintDrillWindow(int kind, QPainter &painter, const QRegion &exposed, const QList<QPoint> &positions);
 
 /// True for Alt+F4, which arrives as a key press only where no window manager takes it.
 bool IsCloseKey(const QKeyEvent *event);

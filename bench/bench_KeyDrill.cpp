@@ -74,6 +74,9 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    // The benchmarks lie in bench/ beside the folder that the build has assembled.
+    if (!qEnvironmentVariableIsSet("QUORVEX_INSTALL"))
+        qputenv("QUORVEX_INSTALL", QFile::encodeName(app.applicationDirPath() + "/../install"_L1));
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

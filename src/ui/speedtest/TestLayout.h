@@ -68,16 +68,17 @@ constexpr QRect InputBox(DisplayMode mode, int row)
 }
 
 inline constexpr QRect lessonCaption{70, 60, 470, 22};
-inline constexpr QRect hint{50, 660, 250, 22};
+inline constexpr QRect hint{50, 660, 285, 44};
 
-// Upper left corners of the buttons, 122 x 32, in the row above the status and in the row below the text.
-inline constexpr QPoint selectLessonButton{560, 55};
-inline constexpr QPoint settingButton{690, 55};
-inline constexpr QPoint scoreButton{820, 55};
-inline constexpr QPoint pauseButton{310, 655};
-inline constexpr QPoint saveButton{440, 655};
-inline constexpr QPoint stopButton{570, 655};
-inline constexpr QPoint overButton{700, 655};
+// Upper left corners of the buttons, in the row above the status and in the row below the text: 112 x 32, the
+// last one 122 wide as in the drills.
+inline constexpr QPoint selectLessonButton{600, 55};
+inline constexpr QPoint settingButton{840, 55};
+inline constexpr QPoint scoreButton{720, 55};
+inline constexpr QPoint pauseButton{350, 655};
+inline constexpr QPoint saveButton{470, 655};
+inline constexpr QPoint stopButton{590, 655};
+inline constexpr QPoint overButton{710, 655};
 inline constexpr QPoint returnButton{830, 655};
 
 /// A tab's left edge is upright; its right edge leans through three columns, at lines 0, 20 and 40.

@@ -1,6 +1,7 @@
 #include "platform/Services.h"
 
 #include "platform/Clock.h"
+#include "platform/InputMethod.h"
 #include "platform/ProgramLauncher.h"
 #include "platform/SoundPlayer.h"
 
@@ -9,6 +10,7 @@ Services &PlatformServices()
     static SystemClock clock;
     static SilentPlayer sound;
     static SystemProgramLauncher launcher;
-    static Services services{&clock, &sound, &launcher, std::mt19937{}};
+    static NoInputMethod inputMethod;
+    static Services services{&clock, &sound, &launcher, &inputMethod, std::mt19937{}};
     return services;
 }

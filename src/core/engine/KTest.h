@@ -3,6 +3,8 @@
 #include "core/engine/TestLines.h"
 #include "core/engine/TypingSession.h"
 
+class IUserRecord;
+
 /// The mark of a position of the test text.
 enum class KeyMark : quint8 { KeyUntyped = 0, KeyRight = 1, KeyWrong = 2 };
 
@@ -14,7 +16,7 @@ enum class KeyMark : quint8 { KeyUntyped = 0, KeyRight = 1, KeyWrong = 2 };
 class KTest final : public TypingSession
 {
 public:
-    KTest() { Clear(); }
+    KTest() = default;
     /// Stores the speed test settings, all at once; `OutComp` is not among them.
     ~KTest() override;
     Q_DISABLE_COPY_MOVE(KTest)
@@ -55,22 +57,24 @@ protected:
     float FinalRate() const override;
 
 private:
-    bool LoadFile(const QString &path);
-    static QString GetLessonTip(const QString &path);
-    static void SortWrong(WrongCharacters &wrong);
-    /// The characters of the text at the places that are marked wrong, in order of their first place, with
-    /// their counts.
+    /// How often one character of the text was mistyped.
     struct WrongCount
     {
         char32_t character;
         int count;
     };
-    enum class Gap { EndsLine, IsSkipped };
-    std::vector<WrongCount> CountWrong(Gap gap) const;
+    enum class Gap { EndsLine, IsSkipped }; ///< an untyped position before typed ones
+
+    bool LoadFile(const QString &path);
+    static QString GetLessonTip(const QString &path);
     void SetMark(int column, KeyMark mark);
+    /// In order of the first place at which each was mistyped.
+    std::vector<WrongCount> CountWrong(Gap gap) const;
+    static void SortWrong(std::vector<WrongCount> &counts);
+    void SaveMistakes(IUserRecord &records) const;
 
     TestLines m_lines;
-    std::vector<std::vector<KeyMark>> m_aKeyState; ///< of the lines and positions that were reached
+    std::vector<std::vector<KeyMark>> m_aKeyState{1}; ///< of the lines and positions that were reached
     int m_nRight = 0;
     int m_nWrong = 0;
 };

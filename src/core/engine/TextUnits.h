@@ -8,6 +8,7 @@ namespace Public_Function {
 /// An ideographic space (U+3000) alone becomes an ordinary space; any other text stays.
 void ConvertFullSpace(QString &text);
 void ConvertFullSpace(std::u32string &text);
+char32_t OrdinarySpace(char32_t character);
 
 /// Whether the first character is a letter of ASCII.
 bool IsLetter(const QString &text);

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+class IUserRecord;
+
 /// The points of the speed curve. Both lists are equally long and have at least one entry, of the first point
 /// at index 0; where nothing was typed, that is speed 0 with an empty label.
 struct SpeedCurve
@@ -95,8 +97,9 @@ protected:
     void AddUnit(const std::u32string &unit);
     /// Counts a backspace to position `column` of the current line, and cuts the line there.
     void TakeBackTo(int column);
-    /// The final speed as it is stored, in words a minute.
-    float StoredSpeed() const;
+    /// Adds the final speed, in words a minute, to the speed test records and saves them. A speed of 0 is no
+    /// result.
+    void StoreRecord(IUserRecord &records, float rate, const QString &lesson) const;
 
     std::vector<std::u32string> m_aInputLine{1}; ///< the lines that were reached so far, line 1 first
     int m_nCurLine = 1;

@@ -1,6 +1,5 @@
 #include "Panel.h"
 #include "Pictures.h"
-#include "Shapes.h"
 #include "Theme.h"
 
 #include <QPainter>
@@ -8,20 +7,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-Picture MakePanel(const QString &name, const std::function<void(QPainter &)> &draw)
-{
-    return {name, QSize(Panel::width, Panel::height), [draw](QPainter &painter) {
-                painter.translate(0, -Panel::tabStripHeight);
-                draw(painter);
-            }};
-}
-
-// The fields where a line to type and the typing itself are shown.
-void DrawTextBoxFrame(QPainter &painter, const Theme &theme, const QRectF &box)
-{
-    Shapes::FillBordered(painter, box, 3, theme.Color(u"panel.textBox"_s), theme.Color(u"panel.border"_s));
-}
 
 void DrawJuniorPanel(QPainter &painter, const Theme &theme)
 {
@@ -39,7 +24,7 @@ void DrawSeniorPanel(QPainter &painter, const Theme &theme)
     Panel::DrawTitlePlate(painter, theme);
     Panel::DrawWell(painter, theme, 106, 264, u"panel.keyCapWell"_s);
     for (const qreal top : {130.0, 190.0})
-        DrawTextBoxFrame(painter, theme, QRectF(QPointF(62, top - 2), QPointF(932, top + 52)));
+        Panel::DrawTextBoxFrame(painter, theme, QRectF(QPointF(62, top - 2), QPointF(932, top + 52)));
     Panel::DrawStatusRow(painter, theme, 285);
     Panel::DrawWell(painter, theme, 350, 638, u"keyboard.ground"_s);
     Panel::DrawHintMark(painter, theme);
@@ -50,7 +35,7 @@ void DrawSeniorPanel(QPainter &painter, const Theme &theme)
 void AddDrillPanels(PictureList &list, const Theme &theme)
 {
     list.append(
-        MakePanel(u"EN_KEY_BACK_B"_s, [&theme](QPainter &painter) { DrawJuniorPanel(painter, theme); }));
+        Panel::Make(u"EN_KEY_BACK_B"_s, [&theme](QPainter &painter) { DrawJuniorPanel(painter, theme); }));
     list.append(
-        MakePanel(u"EN_KEY_BACK_E"_s, [&theme](QPainter &painter) { DrawSeniorPanel(painter, theme); }));
+        Panel::Make(u"EN_KEY_BACK_E"_s, [&theme](QPainter &painter) { DrawSeniorPanel(painter, theme); }));
 }

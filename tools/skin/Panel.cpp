@@ -24,6 +24,14 @@ struct StatusItem
 
 } // namespace
 
+Picture Make(const QString &name, const std::function<void(QPainter &)> &draw)
+{
+    return {name, QSize(width, height), [draw](QPainter &painter) {
+                painter.translate(0, -tabStripHeight);
+                draw(painter);
+            }};
+}
+
 void DrawBody(QPainter &painter, const Theme &theme)
 {
     const qreal radius = theme.Number(u"panel.radius"_s);
@@ -50,6 +58,11 @@ void DrawWell(QPainter &painter, const Theme &theme, qreal top, qreal bottom, co
     Shapes::FillSunken(painter, QRectF(QPointF(wellLeft, top), QPointF(wellRight, bottom)),
                        theme.Number(u"panel.radius"_s), theme.Color(face), theme.Color(u"panel.wellBorder"_s),
                        theme.Color(u"panel.wellShadow"_s));
+}
+
+void DrawTextBoxFrame(QPainter &painter, const Theme &theme, const QRectF &box)
+{
+    Shapes::FillBordered(painter, box, 3, theme.Color(u"panel.textBox"_s), theme.Color(u"panel.border"_s));
 }
 
 void DrawTitlePlate(QPainter &painter, const Theme &theme)

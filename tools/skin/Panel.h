@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Picture.h"
+
 #include <QRectF>
 #include <QString>
 
@@ -17,11 +19,17 @@ constexpr int height = 664;
 constexpr qreal wellLeft = 42;
 constexpr qreal wellRight = 952;
 
+/// A module background: `draw` gets a painter in the coordinates of the content area.
+Picture Make(const QString &name, const std::function<void(QPainter &)> &draw);
+
 /// Face and border. Its top line is the last line of the tab strip, which the lit tab opens.
 void DrawBody(QPainter &painter, const Theme &theme);
 
 /// A sunken field over the whole width, from `top` to `bottom`. `face` is a colour of the theme.
 void DrawWell(QPainter &painter, const Theme &theme, qreal top, qreal bottom, const QString &face);
+
+/// The field that a line to type or the typing itself is shown in.
+void DrawTextBoxFrame(QPainter &painter, const Theme &theme, const QRectF &box);
 
 /// The plate of the lesson's title.
 void DrawTitlePlate(QPainter &painter, const Theme &theme);

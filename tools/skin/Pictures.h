@@ -15,6 +15,8 @@ void AddStatusIcons(PictureList &list, const Theme &theme);
 void AddProgressBars(PictureList &list, const Theme &theme);
 void AddTabStrips(PictureList &list, const Theme &theme);
 void AddDrillPanels(PictureList &list, const Theme &theme);
+void AddTestPanels(PictureList &list, const Theme &theme);
+void AddTopList(PictureList &list, const Theme &theme);
 void AddKeyCaps(PictureList &list, const Theme &theme);
 void AddKeyboards(PictureList &list, const Theme &theme);
 void AddHands(PictureList &list, const Theme &theme);

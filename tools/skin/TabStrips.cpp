@@ -2,16 +2,16 @@
 #include "Pictures.h"
 #include "Shapes.h"
 #include "Theme.h"
+#include "ui/speedtest/TestLayout.h"
 
 #include <QPainter>
-#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 /// A tab's left edge is upright; its right edge leans through three points, at the top, the middle and the
-/// the bottom. The mouse finds the tabs by the same corners.
+/// bottom. The mouse finds the tabs by the same corners.
 struct TabShape
 {
     qreal left;
@@ -20,12 +20,27 @@ struct TabShape
     qreal rightBottom;
 };
 
-constexpr std::array<TabShape, 4> tabShapes{{
-    {0, 370, 390, 410},
-    {410, 575, 590, 600},
-    {600, 760, 780, 790},
-    {790, 950, 965, 980},
-}};
+/// One row of tabs, of which each picture lights another.
+struct TabRow
+{
+    QString labels; // key of the theme
+    QList<TabShape> shapes;
+};
+
+TabRow DrillTabs()
+{
+    return {u"tabs.labels"_s,
+            {{0, 370, 390, 410}, {410, 575, 590, 600}, {600, 760, 780, 790}, {790, 950, 965, 980}}};
+}
+
+TabRow TestTabs()
+{
+    TabRow row{u"tabs.testLabels"_s, {}};
+    for (const TestLayout::Tab &tab : TestLayout::tabs)
+        row.shapes.append(
+            {qreal(tab.left), qreal(tab.rightTop), qreal(tab.rightMiddle), qreal(tab.rightBottom)});
+    return row;
+}
 
 constexpr qreal stripBottom = Panel::tabStripHeight;
 
@@ -49,9 +64,8 @@ QPainterPath TabPath(const TabShape &tab, qreal radius, qreal inset)
     return path;
 }
 
-void DrawTab(QPainter &painter, const Theme &theme, size_t index, bool lit)
+void DrawTab(QPainter &painter, const Theme &theme, const TabShape &tab, const QString &label, bool lit)
 {
-    const TabShape &tab = tabShapes.at(index);
     const qreal radius = theme.Number(u"tabs.radius"_s);
     const QString state = lit ? u"tabs.lit."_s : u"tabs.plain."_s;
     painter.save();
@@ -64,26 +78,32 @@ void DrawTab(QPainter &painter, const Theme &theme, size_t index, bool lit)
     painter.restore();
 
     const QRectF box(tab.left, 2, tab.rightMiddle - tab.left, stripBottom - 4);
-    const QString label = theme.List(u"tabs.labels"_s).at(static_cast<qsizetype>(index)).toString();
     Shapes::DrawLabel(painter, box, label,
                       {theme.Number(u"tabs.textSize"_s), true, theme.Color(state + u"text"_s)});
 }
 
-Picture MakeTabStrip(const Theme &theme, const QString &name, size_t litTab)
+Picture MakeTabStrip(const Theme &theme, const QString &name, const TabRow &row, qsizetype litTab)
 {
-    return {name, QSize(Panel::width, Panel::tabStripHeight), [&theme, litTab](QPainter &painter) {
+    return {name, QSize(Panel::width, Panel::tabStripHeight), [&theme, row, litTab](QPainter &painter) {
                 Panel::DrawBody(painter, theme);
-                for (size_t index = 0; index < tabShapes.size(); ++index)
-                    DrawTab(painter, theme, index, index == litTab);
+                const QJsonArray labels = theme.List(row.labels);
+                for (qsizetype tab = 0; tab < row.shapes.size(); ++tab)
+                    DrawTab(painter, theme, row.shapes.at(tab), labels.at(tab).toString(), tab == litTab);
             }};
+}
+
+void AddTabRow(PictureList &list, const Theme &theme, const TabRow &row, const QStringList &names)
+{
+    for (qsizetype tab = 0; tab < names.size(); ++tab)
+        list.append(MakeTabStrip(theme, names.at(tab), row, tab));
 }
 
 } // namespace
 
 void AddTabStrips(PictureList &list, const Theme &theme)
 {
-    list.append(MakeTabStrip(theme, u"EN_LABEL_KEY_B"_s, 0));
-    list.append(MakeTabStrip(theme, u"EN_LABEL_KEY_E"_s, 1));
-    list.append(MakeTabStrip(theme, u"EN_LABEL_WORD"_s, 2));
-    list.append(MakeTabStrip(theme, u"EN_LABEL_ARTICLE"_s, 3));
+    AddTabRow(list, theme, DrillTabs(),
+              {u"EN_LABEL_KEY_B"_s, u"EN_LABEL_KEY_E"_s, u"EN_LABEL_WORD"_s, u"EN_LABEL_ARTICLE"_s});
+    AddTabRow(list, theme, TestTabs(),
+              {u"TEST_LABEL_NEIBU"_s, u"TEST_LABEL_WAIBU"_s, u"TEST_LABEL_TINGDA"_s});
 }

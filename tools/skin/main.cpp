@@ -54,6 +54,8 @@ PictureList MakeSkinPictures(const Theme &theme)
     AddProgressBars(list, theme);
     AddTabStrips(list, theme);
     AddDrillPanels(list, theme);
+    AddTestPanels(list, theme);
+    AddTopList(list, theme);
     AddKeyCaps(list, theme);
     AddKeyboards(list, theme);
     AddHands(list, theme);

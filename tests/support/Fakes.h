@@ -1,59 +1,12 @@
 #pragma once
 
-#include "platform/Clock.h"
-#include "platform/Services.h"
-#include "platform/SoundPlayer.h"
+#include "support/FakeServices.h"
 #include "ui/shell/Navigator.h"
 #include "ui/shell/ShowMessage.h"
 
-#include <QFileInfo>
 #include <QPointer>
 #include <QStringList>
 #include <QWidget>
-
-/// A clock that stands still until a test moves it.
-class FakeClock final : public Clock
-{
-public:
-    double Now() const override { return m_now; }
-    QDate Today() const override { return QDate(2024, 2, 29); }
-    void Move(double seconds) { m_now += seconds; }
-
-private:
-    double m_now = 1000;
-};
-
-/// Writes down the names of the files that it was asked to play.
-class RecordingSound final : public SoundPlayer
-{
-public:
-    void Play(const QString &nativePath, bool) override { played += QFileInfo(nativePath).fileName(); }
-
-    QStringList TakePlayed() { return std::exchange(played, {}); }
-
-    QStringList played;
-};
-
-/// The fake clock and the recording player in place of the machine's, as long as the object lives.
-class FakeServices
-{
-public:
-    FakeServices()
-        : m_before(PlatformServices())
-    {
-        PlatformServices().clock = &clock;
-        PlatformServices().sound = &sound;
-        PlatformServices().random.seed(7);
-    }
-    ~FakeServices() { PlatformServices() = m_before; }
-    Q_DISABLE_COPY_MOVE(FakeServices)
-
-    FakeClock clock;
-    RecordingSound sound;
-
-private:
-    Services m_before;
-};
 
 /// Writes down where it was asked to lead, and closes the window that another takes the place of.
 class FakeNavigator final : public Navigator

@@ -4,6 +4,7 @@
 #include "platform/Paths.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -28,12 +29,21 @@ public:
 
     void MakeFolder(const QString &relative) const { QDir(m_folder.path()).mkpath(relative); }
 
-    /// Writes a file, and its folder where it is missing.
-    void Write(const QString &relative, const QByteArray &bytes) const
+    /// Writes a file, and its folder where it is missing; its native path.
+    QString Write(const QString &relative, const QByteArray &bytes) const
     {
         MakeFolder(QFileInfo(relative).path());
         QFile file(Native(relative));
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+        return file.fileName();
+    }
+
+    /// Makes a file that is there, but too large to be read.
+    void WriteUnreadable(const QString &relative) const
+    {
+        QFile file(Native(relative));
+        if (!file.open(QIODevice::WriteOnly) || !file.resize(qint64(5) << 30))
             qFatal("cannot write %s", qPrintable(file.fileName()));
     }
 
@@ -52,6 +62,19 @@ public:
     {
         return QDir(Native(relative))
             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    /// Paths of everything in the install folder at any depth, sorted.
+    QStringList Tree() const
+    {
+        QStringList paths;
+        QDirIterator entries(m_folder.path(),
+                             QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                             QDirIterator::Subdirectories);
+        while (entries.hasNext())
+            paths += QDir(m_folder.path()).relativeFilePath(entries.next());
+        paths.sort();
+        return paths;
     }
 
 private:

@@ -1,12 +1,14 @@
 #include "app/AppNavigator.h"
 
 #include "core/shell/Public_Define.h"
+#include "platform/DBusInputMethod.h"
 #include "platform/Paths.h"
 #include "platform/SdlSoundPlayer.h"
 #include "platform/Services.h"
 #include "platform/SingleInstance.h"
 #include "platform/TerminationSignals.h"
 #include "ui/shell/Frm_Main.h"
+#include "ui/shell/InputMethodWatch.h"
 #include "ui/shell/ScreenFit.h"
 #include "ui/shell/ShowMessage.h"
 #include "ui/skin/Fonts.h"
@@ -22,6 +24,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int PixmapCacheKilobytes = 64 * 1024;
+constexpr std::chrono::milliseconds InputMethodPatience{50}; // what a bus that hangs may cost the start
 
 /// The program folder, ending in exactly one separator.
 QString FindInstallDir()
@@ -72,6 +75,8 @@ int main(int argc, char **argv)
     QApplication::setStyle(u"fusion"_s);
     QCoreApplication::setApplicationName(u"Quorvex"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(QUORVEX_VERSION));
+    DBusInputMethod inputMethod;
+    inputMethod.ChooseRunning(InputMethodPatience);
     const std::unique_ptr<QApplication> application = MakeApplication(argc, argv);
 
     SingleInstance instance;
@@ -93,6 +98,8 @@ int main(int argc, char **argv)
 
     SdlSoundPlayer sound;
     PlatformServices().sound = &sound;
+    PlatformServices().inputMethod = &inputMethod;
+    FollowInputMethod();
     PlatformServices().random.seed(std::random_device{}());
     AppNavigator navigator;
     Frm_Main mainWindow(navigator);

@@ -1,0 +1,214 @@
+#include "platform/DBusInputMethod.h"
+#include "platform/Services.h"
+#include "support/FakeBus.h"
+#include "support/FakeServices.h"
+
+#include <QDBusArgument>
+#include <QDBusMetaType>
+#include <QDBusVariant>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr std::chrono::milliseconds untilAnswered = 20s;
+
+/// A row of Fcitx 5's list: id, name and what it says besides.
+struct FcitxRow
+{
+    QString id;
+    QString name;
+};
+
+QDBusArgument &operator<<(QDBusArgument &argument, const FcitxRow &row)
+{
+    argument.beginStructure();
+    argument << row.id << row.name << u"拼音"_s << u"icon"_s << u"拼"_s << u"zh_CN"_s << true;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, FcitxRow &)
+{
+    return argument;
+}
+
+QVariant IBusEngine(const QString &id, const QString &name)
+{
+    QDBusArgument engine;
+    engine.beginStructure();
+    engine << u"IBusEngineDesc"_s << QVariantMap() << id << name << u"description"_s << u"zh_CN"_s;
+    engine.endStructure();
+    const QVariant inner = QVariant::fromValue(QDBusVariant(QVariant::fromValue(engine)));
+    return QVariant::fromValue(QDBusVariant(inner));
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(FcitxRow)
+
+/// Against buses of its own, on which something speaks like Fcitx 5 or IBus.
+class tst_InputMethod : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        qDBusRegisterMetaType<FcitxRow>();
+        qDBusRegisterMetaType<QList<FcitxRow>>();
+    }
+
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
+        qputenv("XDG_CONFIG_HOME", m_folder->path().toUtf8());
+        qputenv("DISPLAY", ":7.0");
+        for (const char *const name : {"IBUS_ADDRESS", "WAYLAND_DISPLAY", "QT_IM_MODULE"})
+            qunsetenv(name);
+    }
+
+    void cleanup()
+    {
+        m_fcitx.reset();
+        m_ibus.reset();
+    }
+
+    void names_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("pinyin") << u"pinyin"_s << u"Pinyin"_s << u"Pinyin"_s;
+        QTest::newRow("in Chinese") << u"pinyin"_s << u"拼音"_s << u"拼音 (Pinyin)"_s;
+        QTest::newRow("libpinyin") << u"libpinyin"_s << u"Intelligent Pinyin"_s << u"Intelligent Pinyin"_s;
+        QTest::newRow("lower case") << u"libpinyin"_s << QString() << u"libPinyin"_s;
+        QTest::newRow("double Pinyin") << u"shuangpin"_s << u"Shuangpin"_s << u"Shuangpin (Pinyin)"_s;
+        QTest::newRow("only the name tells") << u"somebody"_s << u"某双拼"_s << u"某双拼 (Pinyin)"_s;
+        QTest::newRow("Wubi") << u"wbx"_s << u"Wubi"_s << u"Wubi"_s;
+        QTest::newRow("Bopomofo") << u"libbopomofo"_s << u"Bopomofo"_s << u"Bopomofo"_s;
+        QTest::newRow("layout of Fcitx") << u"keyboard-us"_s << u"English (US)"_s << QString();
+        QTest::newRow("layout of IBus") << u"xkb:us::eng"_s << u"English (US)"_s << QString();
+        QTest::newRow("nothing active") << QString() << QString() << QString();
+    }
+
+    void names()
+    {
+        QFETCH(const QString, id);
+        QFETCH(const QString, name);
+        QFETCH(const QString, expected);
+        StartFcitx(id, name);
+        QCOMPARE(DBusInputMethod().AskName(untilAnswered), expected);
+        m_fcitx.reset();
+        StartIBus(id, name);
+        QCOMPARE(DBusInputMethod().AskName(untilAnswered), expected);
+    }
+
+    void followsWhatRuns()
+    {
+        DBusInputMethod method;
+        QCOMPARE(method.AskName(untilAnswered), QString()); // neither the bus nor anything on it
+        FakeBus empty;
+        qputenv("DBUS_SESSION_BUS_ADDRESS", empty.Address());
+        WriteIBusAddress("unix:path=/nowhere"); // of one that crashed
+        QCOMPARE(method.AskName(untilAnswered), QString());
+        StartIBus(u"wubi"_s, u"Wubi"_s);
+        QCOMPARE(method.AskName(untilAnswered), u"Wubi"_s);
+        m_ibus.reset();
+        QCOMPARE(method.AskName(untilAnswered), QString());
+        StartIBus(u"libpinyin"_s, u"Intelligent Pinyin"_s);
+        QCOMPARE(method.AskName(untilAnswered), u"Intelligent Pinyin"_s);
+        StartFcitx(u"keyboard-us"_s, {});
+        QCOMPARE(method.AskName(untilAnswered), QString());
+        qputenv("QT_IM_MODULE", "ibus"); // what the person types through
+        QCOMPARE(method.AskName(untilAnswered), u"Intelligent Pinyin"_s);
+    }
+
+    void knownNameFollowsARefresh()
+    {
+        StartFcitx(u"wbx"_s, u"Wubi"_s);
+        FakeServices services;
+        QCOMPARE(Public_Function::GetImeName(), QString());
+        DBusInputMethod method;
+        PlatformServices().inputMethod = &method;
+        QCOMPARE(Public_Function::KnownImeName(), QString());
+        method.Refresh();
+        QTRY_COMPARE(Public_Function::KnownImeName(), u"Wubi"_s);
+        m_fcitx->Answer(u"CurrentInputMethod"_s, u"keyboard-us"_s);
+        QCOMPARE(Public_Function::KnownImeName(), u"Wubi"_s);
+        QTRY_COMPARE(Public_Function::GetImeName(), QString()); // tried: this one has a limit
+    }
+
+    void silenceKeepsTheNameAndEndsTheWait()
+    {
+        StartFcitx(u"wbx"_s, u"Wubi"_s);
+        DBusInputMethod method;
+        QCOMPARE(method.AskName(untilAnswered), u"Wubi"_s);
+        m_fcitx->Answer(u"CurrentInputMethod"_s, std::nullopt);
+        QCOMPARE(method.AskName(10ms), u"Wubi"_s);          // still waiting behind this
+        QCOMPARE(method.AskName(untilAnswered), u"Wubi"_s); // given up
+        m_fcitx->Answer(u"CurrentInputMethod"_s, u"keyboard-us"_s);
+        QCOMPARE(method.AskName(untilAnswered), QString());
+        m_fcitx->Answer(u"CurrentInputMethod"_s, std::nullopt);
+        method.Refresh(); // its worker is left behind
+    }
+
+    void programUsesWhatRuns()
+    {
+        const auto choose = [] {
+            DBusInputMethod().ChooseRunning(untilAnswered);
+            return qgetenv("QT_IM_MODULE");
+        };
+        QCOMPARE(choose(), QByteArray());
+        QVERIFY(!qEnvironmentVariableIsSet("QT_IM_MODULE"));
+        StartIBus(u"libpinyin"_s, {});
+        QCOMPARE(choose(), "ibus"_ba);
+        qunsetenv("QT_IM_MODULE");
+        StartFcitx(u"pinyin"_s, {});
+        const QByteArray fcitx = choose(); // which speaks IBus too, for machines without its plug-in
+        QVERIFY(fcitx == "fcitx" || fcitx == "ibus");
+        qputenv("QT_IM_MODULE", "compose");
+        QCOMPARE(choose(), "compose"_ba);
+    }
+
+private:
+    void StartFcitx(const QString &id, const QString &name)
+    {
+        m_fcitx = std::make_unique<FakeBus>(u"org.fcitx.Fcitx5"_s);
+        QVERIFY(m_fcitx->IsUp());
+        m_fcitx->Answer(u"CurrentInputMethod"_s, id);
+        const QList<FcitxRow> rows{{u"other"_s, u"Other"_s}, {id, name}};
+        m_fcitx->Answer(u"AvailableInputMethods"_s, QVariant::fromValue(rows));
+        qputenv("DBUS_SESSION_BUS_ADDRESS", m_fcitx->Address());
+    }
+
+    void StartIBus(const QString &id, const QString &name)
+    {
+        m_ibus = std::make_unique<FakeBus>(u"org.freedesktop.IBus"_s);
+        QVERIFY(m_ibus->IsUp());
+        m_ibus->Answer(u"Get"_s, IBusEngine(id, name));
+        WriteIBusAddress(m_ibus->Address());
+    }
+
+    void WriteIBusAddress(const QByteArray &address)
+    {
+        const QString folder = m_folder->filePath(u"ibus/bus/"_s);
+        QVERIFY(QDir().mkpath(folder));
+        QFile file(folder + QString::fromLatin1(QDBusConnection::localMachineId()) + u"-unix-7"_s);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("# a note\nIBUS_ADDRESS=" + address + "\nIBUS_DAEMON_PID=7\n");
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<FakeBus> m_fcitx;
+    std::unique_ptr<FakeBus> m_ibus;
+};
+
+QTEST_GUILESS_MAIN(tst_InputMethod)
+#include "tst_InputMethod.moc"

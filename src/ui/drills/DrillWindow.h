@@ -1,16 +1,7 @@
 #pragma once
 
 #include "core/drills/DrillClock.h"
-#include "core/drills/DrillLayout.h"
-#include "ui/shell/Navigator.h"
-
-#include <QDialog>
-#include <QList>
-
-class ProgressBox;
-class QLabel;
-class QTimer;
-class SkinButton;
+#include "ui/shell/PracticeWindow.h"
 
 /// What tells one drill's frame from another's.
 struct DrillFacts
@@ -34,21 +25,18 @@ struct DrillCounts
     bool unitsAreKeys = true;
 };
 
-/// The frame of all drills: a window that covers the screen, with the tab strip, the status panel, the
-/// buttons, the clock, the question at a lesson's end and the rules for leaving. A drill supplies its own
-/// part through the hooks. Buttons take no focus: every key belongs to the drill.
+/// The frame of all drills: to what every practice window has it adds the tab strip, the clock, the question
+/// at a lesson's end and the rules for leaving. A drill supplies its own part through the hooks.
 ///
 /// However the drill is left (button, tab, Alt+F4, the window manager, the end of the program) its data are
 /// stored once, before the next window opens.
-class DrillWindow : public QDialog
+class DrillWindow : public PracticeWindow
 {
     Q_OBJECT
 
 public:
     /// Lays the window out, shows it and loads the lesson.
     void ShowDrill();
-
-    void reject() override;
 
 protected:
     DrillWindow(const DrillFacts &facts, Navigator &navigator, QWidget *owner);
@@ -78,8 +66,6 @@ protected:
     void CompleteLesson();
     /// Tells that the lesson cannot be used, after the window has been shown.
     void ReportLoadFailure(const QString &text);
-    void ShowLessonTitle(const QString &title);
-    void ShowHint(const QString &text);
 
     /// A button of the row above the lesson, at these columns right of the origin.
     SkinButton *AddRowButton(const QString &objectName, const QString &name, const QString &bitmap,
@@ -88,44 +74,22 @@ protected:
     void OnSelectLesson();
     void OnSetting();
 
-    const DrillLayout &Layout() const { return m_layout; }
-    int AreaWidth() const;
+    int SkinKind() const override { return m_facts.skinKind; }
+    void OnTimer() override { UpdateStatus(false); }
+    void OnMinimize() override;
 
     bool event(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
-    bool focusNextPrevChild(bool) override { return false; }
 
 private:
-    QLabel *AddLabel(const QString &objectName, const QString &name);
-    SkinButton *AddButton(const QString &objectName, const QString &name, const QString &bitmap);
-    void PlaceButtons();
-    void PlaceLabels();
-    void PlaceStatusIcons();
     void PlaceTabs();
     void StoreOnce();
     void OnActivated();
 
     const DrillFacts m_facts;
-    Navigator &m_navigator;
-    DrillLayout m_layout;
-    QList<QPoint> m_anchors; ///< of the pictures that PaintDrillWindow puts down
-    QString m_title;
     DrillClock m_clock;
     bool m_stored = false;
     bool m_activated = false;
-
-    QTimer *Timer1;
-    SkinButton *BtnHelp;
-    SkinButton *btnMiniMize;
-    SkinButton *BtnClose;
-    SkinButton *BtnReturn;
-    QLabel *labLessonMsg;
-    QLabel *labTime;
-    QLabel *labSpeed;
-    QLabel *labVeracity;
-    QLabel *labPromptMsg;
-    ProgressBox *picProgress;
 };

@@ -1,0 +1,33 @@
+#include "ui/widgets/TabRegion.h"
+
+TabRegion::TabRegion(const QString &objectName, const QString &accessibleName, const QPolygon &corners,
+                     QWidget *parent)
+    : QAbstractButton(parent)
+    , m_corners(corners.translated(-corners.boundingRect().topLeft()))
+{
+    setObjectName(objectName);
+    setAccessibleName(accessibleName);
+    setFocusPolicy(Qt::NoFocus);
+    setCheckable(true);
+    SetOwn(false);
+    setGeometry(corners.boundingRect());
+    // The tabs' slanted sides interlock; the mask leaves its neighbour's part of the rectangle to the
+    // neighbour.
+    setMask(QRegion(m_corners, Qt::OddEvenFill));
+}
+
+void TabRegion::SetOwn(bool own)
+{
+    setChecked(own);
+    if (own)
+        unsetCursor();
+    else
+        setCursor(Qt::PointingHandCursor);
+}
+
+bool TabRegion::hitButton(const QPoint &position) const
+{
+    return m_corners.containsPoint(position, Qt::OddEvenFill);
+}
+
+void TabRegion::paintEvent(QPaintEvent *) {}

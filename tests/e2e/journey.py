@@ -20,6 +20,7 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, HERE)
 
 from desktop import Desktop  # noqa: E402
+from input_method import PinyinInput  # noqa: E402
 from program import Program  # noqa: E402
 from screen import Screen  # noqa: E402
 
@@ -27,7 +28,7 @@ from screen import Screen  # noqa: E402
 class Stage:
     """What all journeys of a run share."""
 
-    desktop = screen = shipped = evidence = None
+    desktop = screen = shipped = evidence = input_method = None
     keep = False
 
     @classmethod
@@ -49,6 +50,12 @@ class Journey(unittest.TestCase):
     def setUp(self):
         self.program = Program(Stage.desktop, Stage.screen, Stage.shipped,
                                os.path.join(Stage.desktop.folder, "install"))
+
+    def start_pinyin(self):
+        """Starts a Pinyin input method, off at first, for this journey. To be called before the program starts."""
+        pinyin = PinyinInput(Stage.desktop, Stage.input_method)
+        self.addCleanup(pinyin.close)
+        return pinyin
 
     def tearDown(self):
         self.program.kill()
@@ -85,8 +92,10 @@ def main():
     arguments.add_argument("--build", default=os.path.join(HERE, "../../build/release"))
     arguments.add_argument("--keep", action="store_true")
     arguments.add_argument("--size", default="1024x768")
+    arguments.add_argument("--input-method", choices=["ibus", "fcitx"], default="ibus", help="for Chinese text")
     arguments.add_argument("names", nargs="*", help="journey files, or journey_file.Class.test_method")
     given = arguments.parse_args()
+    Stage.input_method = given.input_method
     names = given.names or sorted(os.path.basename(path)[:-3] for path in glob.glob(HERE + "/journey_*.py"))
 
     # An interrupted run cleans up like a finished one.

@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 #include <QInputMethod>
+#include <QWindow>
 
 void FollowInputMethod()
 {

@@ -3,9 +3,11 @@
 #include "core/records/IUserRecord.h"
 #include "core/shell/UserList.h"
 
+#include <QSet>
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,6 +21,21 @@ QString ShortestText(float number)
     return QString::fromLatin1(text.data(), end.ptr - text.data());
 }
 
+/// Fastest first, equally fast ones as they were. Places are sorted in place of entries, which are large.
+std::vector<TopListEntry> Ranked(std::vector<TopListEntry> entries)
+{
+    std::vector<std::pair<float, std::size_t>> places;
+    places.reserve(entries.size());
+    for (const TopListEntry &entry : entries)
+        places.emplace_back(-entry.speed, places.size());
+    std::sort(places.begin(), places.end());
+    std::vector<TopListEntry> ranked;
+    ranked.reserve(entries.size());
+    for (const auto &[speed, place] : places)
+        ranked.push_back(std::move(entries[place]));
+    return ranked;
+}
+
 } // namespace
 
 QString TopListEntry::RecordText() const
@@ -30,6 +47,7 @@ std::vector<TopListEntry> CollectTopList()
 {
     constexpr int speedTests = 3;
     std::vector<TopListEntry> entries;
+    QSet<QString> texts; // there are few, and each record has its own copy
     const QStringList users = UserList().Names();
     for (const QString &user : users) {
         IUserRecord records;
@@ -37,10 +55,9 @@ std::vector<TopListEntry> CollectTopList()
         records.OpenTrainingRecord(speedTests);
         for (int i = 0; i < records.TrainingRecordAmount(speedTests); ++i) {
             if (const std::optional<TrainingRecord> record = records.GetTrainingRecord(speedTests, i))
-                entries.push_back({user, record->Speed, record->Rate, record->Date, record->Text});
+                entries.push_back(
+                    {user, record->Speed, record->Rate, record->Date, *texts.insert(record->Text)});
         }
     }
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const TopListEntry &a, const TopListEntry &b) { return a.speed > b.speed; });
-    return entries;
+    return Ranked(std::move(entries));
 }

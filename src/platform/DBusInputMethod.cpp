@@ -2,6 +2,7 @@
 
 #include "platform/ImeBuses.h"
 
+#include <QThread>
 #include <condition_variable>
 #include <mutex>
 #include <utility>
@@ -22,8 +23,10 @@ struct DBusInputMethod::Shared
 
 DBusInputMethod::DBusInputMethod()
     : m_shared(std::make_shared<Shared>())
-    , m_worker([shared = m_shared] { Work(*shared); })
 {
+    // Before there is an application, Qt takes the first thread that it sees for the main one.
+    QThread::currentThread();
+    m_worker = std::thread([shared = m_shared] { Work(*shared); });
 }
 
 DBusInputMethod::~DBusInputMethod()

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "core/speedtest/TestMaterial.h"
 #include "ui/skin/SkinnedDialog.h"
 
-#include <QStringList>
 #include <array>
 
-class QComboBox;
+class ChoiceBox;
+class QLabel;
 class QListWidget;
 class QRadioButton;
 class SkinButton;
@@ -27,19 +28,16 @@ public:
 
 private:
     void MakeControls();
-    void PlaceControls();
-    QString RootFolder() const;
-    bool IsProfessional() const;
+    TestMaterial::Place ShownPlace() const;
     void FillFolders();
     void FillFiles();
 
     std::array<QRadioButton *, 2> optLanguage{};
     std::array<QRadioButton *, 2> optClass{};
-    QComboBox *cbxFolder;
+    QLabel *m_folderLabel;
+    ChoiceBox *cbxFolder;
     QListWidget *lstFile;
     SkinButton *BtnOk;
     SkinButton *BtnCancel;
-    QStringList m_files;
-    QString m_currentFile;
     QString m_chosenFile;
 };

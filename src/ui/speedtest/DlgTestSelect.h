@@ -27,7 +27,6 @@ public:
 
 private:
     void MakeControls();
-    void PlaceControls();
     void ApplyChoice();
     void ChooseOwnFile();
     void OfferPrint() const;

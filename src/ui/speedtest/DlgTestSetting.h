@@ -5,12 +5,11 @@
 #include <array>
 #include <optional>
 
-class QCheckBox;
 class QGroupBox;
-class QLabel;
 class QLineEdit;
 class QRadioButton;
 class SkinButton;
+class TickBox;
 
 /// "Test setting": the line-break rule, the display mode, the end of a test and the key sound. It only
 /// collects the choices: the window fills it before it is shown, and reads it after OK. The display modes and
@@ -52,18 +51,17 @@ public:
 
 private:
     void MakeControls();
-    void PlaceControls();
     void ChooseComparison(bool separate);
     void ChooseEnd();
 
     std::array<QRadioButton *, 3> optNewLine{};
     QGroupBox *m_displayGroup;
-    QCheckBox *chkComp;
+    TickBox *chkComp;
     std::array<QRadioButton *, 3> optComp{};
     QGroupBox *m_endGroup;
     std::array<QRadioButton *, 2> optOverType{};
     QLineEdit *txtMinutes;
-    QCheckBox *chkKeySound;
+    TickBox *chkKeySound;
     SkinButton *BtnOk;
     SkinButton *BtnCancel;
     bool m_nRetVal = false;

@@ -29,7 +29,6 @@ public:
 
 private:
     void MakeControls();
-    void PlaceControls();
     void DrawChart(int index);
 
     QLabel *Label2;

@@ -3,6 +3,7 @@
 #include "ui/skin/SkinnedDialog.h"
 
 class SkinButton;
+class TopListModel;
 class TopListView;
 
 /// "Top List ": the speed test results of all users of the installation, fastest first.
@@ -18,6 +19,9 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void MakeControls();
+
+    TopListModel *m_entries;
     TopListView *m_list;
     SkinButton *BtnOk;
 };

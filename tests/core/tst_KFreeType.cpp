@@ -1,5 +1,5 @@
 #include "core/engine/KFreeType.h"
-#include "core/records/IUserRecord.h"
+#include "core/records/RecordFile.h"
 #include "support/FakeServices.h"
 #include "support/TestInstall.h"
 
@@ -50,13 +50,10 @@ private Q_SLOTS:
         QCOMPARE(engine.m_nBackSpace, backspaces);
         QVERIFY(!engine.GetWrong().any);
         engine.SaveData(u"Printed Text"_s);
-        IUserRecord records;
-        records.SetCurrentUser(u"Anna"_s);
-        records.OpenTrainingRecord(3);
         QList<float> stored;
-        if (records.TrainingRecordAmount(3) > 0) {
-            const TrainingRecord record = *records.GetTrainingRecord(3, 0);
-            stored = {record.Speed, record.Rate};
+        for (const TrainingRecord &record :
+             RecordFile::DecodeTraining(install.Read(u"Users/Anna/RecordEX.Dat"_s))) {
+            stored += {record.Speed, record.Rate};
             QCOMPARE(record.Text, u"Printed Text"_s);
         }
         QTEST(stored, "stored");
@@ -64,7 +61,6 @@ private Q_SLOTS:
 
     void LinesGoOnAndBack()
     {
-        const FakeServices services;
         const TestInstall install;
         KFreeType engine;
         engine.BackSpace();

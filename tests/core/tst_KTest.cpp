@@ -242,24 +242,20 @@ private Q_SLOTS:
         QCOMPARE(lesson.install.Tree(), before);
     }
 
-    void QuotientsAreRoundedUp_data()
-    {
-        QTest::addColumn<float>("a");
-        QTest::addColumn<float>("b");
-        QTest::addColumn<qint16>("quotient");
-        QTest::newRow("even") << 20.0F << 10.0F << qint16(2);
-        QTest::newRow("one more") << 21.0F << 10.0F << qint16(3);
-        QTest::newRow("rounded down first") << 20.4F << 10.0F << qint16(3);
-        QTest::newRow("rounded past the quotient") << 19.6F << 10.0F << qint16(2);
-        QTest::newRow("by nothing") << 5.0F << 0.5F << qint16(0);
-        QTest::newRow("too large") << 1.0e9F << 1.0F << qint16(32767);
-    }
-
     void QuotientsAreRoundedUp()
     {
-        QFETCH(float, a);
-        QFETCH(float, b);
-        QTEST(Public_Function::CeilDiv(a, b), "quotient");
+        struct Quotient
+        {
+            float a, b;
+            qint16 quotient;
+        };
+        for (const auto &[a, b, quotient] : {Quotient{20, 10, 2},
+                                             {21, 10, 3},
+                                             {20.4F, 10, 3},
+                                             {19.6F, 10, 2},
+                                             {5, 0.5F, 0},
+                                             {1.0e9F, 1, 32767}})
+            QCOMPARE(Public_Function::CeilDiv(a, b), quotient);
     }
 
     void Characters()

@@ -1,4 +1,4 @@
-#include "core/records/IUserRecord.h"
+#include "core/records/RecordFile.h"
 #include "core/records/TopList.h"
 #include "support/TestInstall.h"
 

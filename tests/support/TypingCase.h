@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/engine/KTest.h"
-#include "core/records/IUserRecord.h"
+#include "core/records/RecordFile.h"
 #include "core/shell/Public_Define.h"
 #include "support/FakeServices.h"
 #include "support/TestInstall.h"
@@ -41,6 +41,10 @@ public:
         KTest test;
         for (const QString &line : m_setup)
             SetUp(test, line);
+        for (const auto &[name, records] : {std::pair(English, m_english), std::pair(Chinese, m_chinese)}) {
+            if (!records.empty())
+                m_install.Write(name, RecordFile::Encode(records));
+        }
         m_install.Write(QStringLiteral("Data/case.txt"), m_lesson.join(QStringLiteral("\r\n")).toUtf8());
         Shared().TestFile[0] = Shared().InstallDir + QStringLiteral("Data\\case.txt");
         if (!test.LoadLesson())
@@ -61,7 +65,7 @@ private:
             test.CheckString(QString::fromUcs4(&character, 1));
     }
 
-    static void SetUp(KTest &test, const QString &line)
+    void SetUp(KTest &test, const QString &line)
     {
         const QString value = line.section(u' ', 1);
         if (line.startsWith(u"columns"))
@@ -69,18 +73,8 @@ private:
         else if (line == u"keys")
             test.m_bEnglish = true;
         else if (line.startsWith(u"stored"))
-            StoreMistake(value.section(u'=', 0, 0), value.section(u'=', 1).toShort());
-    }
-
-    static void StoreMistake(const QString &character, qint16 count)
-    {
-        const int language = character[0] < QChar(128) ? 0 : 1;
-        bool chinese = language == 1;
-        IUserRecord records;
-        records.SetCurrentUser(Shared().CurrentUserName);
-        records.OpenMistakeRecord(language);
-        records.AddMistakeRecord(character, count, chinese);
-        records.SaveMistakeRecordFile(language);
+            (value[0] < QChar(128) ? m_english : m_chinese)
+                .push_back({value.section(u'=', 0, 0), value.section(u'=', 1).toShort()});
     }
 
     void Step(KTest &test, const QString &line)
@@ -184,34 +178,29 @@ private:
 
     void AddRecords()
     {
-        constexpr int speedTests = 3;
-        IUserRecord records;
-        records.SetCurrentUser(Shared().CurrentUserName);
-        records.OpenTrainingRecord(speedTests);
         QString training = QStringLiteral("record:");
-        for (int i = 0; i < records.TrainingRecordAmount(speedTests); ++i) {
-            const auto record = *records.GetTrainingRecord(speedTests, i);
-            training += QStringLiteral(" %1 %2 ")
+        for (const TrainingRecord &record :
+             RecordFile::DecodeTraining(m_install.Read(QStringLiteral("Users/Anna/RecordEX.Dat"))))
+            training += QStringLiteral(" %1 %2 %3")
                             .arg(static_cast<double>(record.Speed))
-                            .arg(static_cast<double>(record.Rate)) +
-                        record.Text;
-        }
-        records.OpenMistakeRecord(0);
-        records.OpenMistakeRecord(1);
+                            .arg(static_cast<double>(record.Rate))
+                            .arg(record.Text);
         QString mistakes = QStringLiteral("mistakes:");
-        const auto add = [&](const MistakeRecord &record) {
-            mistakes += u' ' + record.Char + u'=' + QString::number(record.Count);
-        };
-        for (int i = 0; i < records.MistakeENRecordAmount(); ++i)
-            add(*records.GetMistakeENRecord(i, records.MistakeENRecordAmount()));
-        for (int i = 0; i < records.MistakeCNRecordAmount(); ++i)
-            add(*records.GetMistakeCNRecord(i, records.MistakeCNRecordAmount()));
+        for (const QString &name : {English, Chinese}) {
+            for (const MistakeRecord &record : RecordFile::DecodeMistakes(m_install.Read(name)))
+                mistakes += u' ' + record.Char + u'=' + QString::number(record.Count);
+        }
         m_result += {training, mistakes};
     }
+
+    const QString English = QStringLiteral("Users/Anna/MistakeEN.Dat");
+    const QString Chinese = QStringLiteral("Users/Anna/MistakeCN.Dat");
 
     FakeServices m_services;
     TestInstall m_install;
     double m_seconds = 0;
+    std::vector<MistakeRecord> m_english;
+    std::vector<MistakeRecord> m_chinese;
     QStringList m_setup;
     QStringList m_lesson;
     QStringList m_steps;

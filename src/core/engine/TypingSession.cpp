@@ -159,8 +159,10 @@ void TypingSession::StoreRecord(IUserRecord &records, float rate, const QString 
     constexpr int speedTests = 3;
     constexpr qint64 keysInWord = 5;
     float speed = m_fLastAveSpeed;
-    if (m_bEnglish)
-        speed = static_cast<float>(Public_Function::RoundHalfEven(static_cast<double>(speed)) / keysInWord);
+    if (m_bEnglish) {
+        const qint64 words = Public_Function::RoundHalfEven(static_cast<double>(speed)) / keysInWord;
+        speed = static_cast<float>(words);
+    }
     if (speed == 0)
         return;
     records.OpenTrainingRecord(speedTests);

@@ -2,6 +2,7 @@
 
 #include "platform/Paths.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -27,7 +28,7 @@ QString Public_Function::ChooseTextFile(FilePurpose purpose, QWidget *owner)
     if (FileAnswerer())
         return FileAnswerer()(purpose);
     // The next dialog opens where the last one was left.
-    static QString folder;
+    static QString folder = QDir::homePath();
     QFileDialog dialog(owner, QFileDialog::tr(purpose == FilePurpose::Save ? "Save" : "Open"), folder);
     dialog.setObjectName(u"ChooseTextFile"_s);
     dialog.setNameFilter(u"Text file（*.txt） (*.txt)"_s);

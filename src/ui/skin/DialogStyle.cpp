@@ -144,15 +144,14 @@ void Public_Function::StyleDialogScrollBar(QScrollBar *bar)
 QString Public_Function::DialogChoiceStyle()
 {
     return BoxStyle(Qt::white).replace("%2"_L1, "QComboBox"_L1) +
-           u"QComboBox { padding-left: 6px; }"
+           u"QComboBox { padding-left: 6px; combobox-popup: 0; }"
            "QComboBox:focus { padding-left: 5px; }"
            "QComboBox:disabled { background: rgb(233, 233, 233); color: rgb(150, 156, 168);"
            " border-color: rgb(190, 196, 208); }"
            "QComboBox::drop-down { border: none; width: 24px; }"
            "QComboBox::down-arrow { image: none; }"
-           "QComboBox QAbstractItemView { background: white; border: 1px solid rgb(141, 148, 167); padding: "
-           "2px;"
-           " outline: none; }"
+           "QComboBox QAbstractItemView { background: white; border: 1px solid rgb(141, 148, 167);"
+           " padding: 1px; outline: none; }"
            "QComboBox QAbstractItemView::item { padding: 4px 6px; min-height: 16px; border-radius: 3px;"
            " color: rgb(40, 46, 58); }"
            "QComboBox QAbstractItemView::item:selected { background: rgb(62, 84, 122); color: white; }"_s +

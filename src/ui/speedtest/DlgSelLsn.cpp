@@ -23,7 +23,7 @@ DlgSelLsn::DlgSelLsn(const QString &currentFile, QWidget *owner)
     , m_chosenFile(currentFile)
 {
     setObjectName(u"DlgSelLsn"_s);
-    resize(440, 420);
+    resize(460, 420);
     MakeControls();
     SkinDialog(u"Select courses"_s);
 
@@ -55,7 +55,7 @@ void DlgSelLsn::MakeControls()
 {
     const int left = 20;
     const int content = width() - 2 * left;
-    const int languageWidth = 178;
+    const int languageWidth = 192;
     int top = TitleHeight() + 12;
     const auto addGroup = [&](const QString &title, const QString &name, const std::array<QString, 2> &texts,
                               std::array<QRadioButton *, 2> &options, int x, int w) {

@@ -101,8 +101,7 @@ void ChartPainter::Paint(QPainter &painter) const
     if (IsEmpty()) {
         painter.setPen(ChartTextColor);
         painter.drawText(m_plot, Qt::AlignCenter, m_data.emptyText);
-    }
-    if (m_data.kind == ChartData::Kind::Bar) {
+    } else if (m_data.kind == ChartData::Kind::Bar) {
         PaintBars(painter);
         PaintBarValues(painter);
     } else {

@@ -5,9 +5,12 @@
 #include "platform/Services.h"
 #include "platform/SoundPlayer.h"
 #include "ui/drills/frmEn_KeyTrain_Basic.h"
+#include "ui/records/DlgHighScore.h"
 #include "ui/shell/DlgHelp.h"
 #include "ui/shell/Frm_Main.h"
 #include "ui/shell/ShowMessage.h"
+#include "ui/speedtest/frmFreeType.h"
+#include "ui/speedtest/frmTest.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -49,8 +52,8 @@ void AppNavigator::ComeForward()
     if (!m_main)
         return;
     BringToFront(m_main);
-    if (m_drill)
-        BringToFront(m_drill);
+    if (m_practice)
+        BringToFront(m_practice);
     if (QWidget *dialog = QApplication::activeModalWidget())
         BringToFront(dialog);
 }
@@ -76,27 +79,54 @@ bool AppNavigator::CanOpenDrill(DrillKind kind)
     return false;
 }
 
-void AppNavigator::OpenDrill(DrillKind kind, QWidget *instead)
+bool AppNavigator::IsBusy(const QWidget *instead)
 {
-    if (m_drill && m_drill != instead) {
-        BringToFront(m_drill);
-        return;
-    }
-    if (!CanOpenDrill(kind))
-        return;
-    if (Shared().EnSound != 0)
-        PlatformServices().sound->WarmUp();
-    auto *drill = new frmEn_KeyTrain_Basic(*this, m_main);
-    m_drill = drill;
-    drill->ShowDrill();
+    if (!m_practice || m_practice == instead)
+        return false;
+    BringToFront(m_practice);
+    return true;
+}
+
+template <typename Window, typename Show>
+void AppNavigator::OpenPractice(QWidget *instead, Show show)
+{
+    auto *window = new Window(*this, m_main);
+    m_practice = window;
+    (window->*show)();
     if (instead)
         instead->close();
 }
 
-bool AppNavigator::OpenSpeedTest()
+void AppNavigator::OpenDrill(DrillKind kind, QWidget *instead)
 {
-    SayNotYet(tr("The speed test"));
-    return false;
+    if (IsBusy(instead) || !CanOpenDrill(kind))
+        return;
+    if (Shared().EnSound != 0)
+        PlatformServices().sound->WarmUp();
+    OpenPractice<frmEn_KeyTrain_Basic>(instead, &frmEn_KeyTrain_Basic::ShowDrill);
+}
+
+void AppNavigator::OpenSpeedTest(QWidget *instead)
+{
+    if (IsBusy(instead))
+        return;
+    if (Shared().ChSound != 0)
+        PlatformServices().sound->WarmUp();
+    OpenPractice<frmTest>(instead, &frmTest::ShowTest);
+}
+
+void AppNavigator::OpenFreeTyping(QWidget *instead)
+{
+    if (IsBusy(instead))
+        return;
+    if (Shared().ChSound != 0)
+        PlatformServices().sound->WarmUp();
+    OpenPractice<frmFreeType>(instead, &frmFreeType::ShowTest);
+}
+
+void AppNavigator::ShowTopList(QWidget *owner)
+{
+    DlgHighScore(owner).exec();
 }
 
 bool AppNavigator::OpenPersonalRecords()
@@ -140,14 +170,15 @@ bool AppNavigator::eventFilter(QObject *watched, QEvent *event)
             ShowHelp(window);
         return true;
     }
-    if (event->type() == QEvent::WindowActivate && watched == m_main && m_drill)
-        QTimer::singleShot(0, m_drill, [this] { PassFocusToDrill(); });
+    if (event->type() == QEvent::WindowActivate && watched == m_main && m_practice)
+        QTimer::singleShot(0, m_practice, [this] { PassFocusToPractice(); });
     return QObject::eventFilter(watched, event);
 }
 
 /// A task bar gives the focus to the main window, which a drill covers: keys would go where nobody sees them.
-void AppNavigator::PassFocusToDrill()
+void AppNavigator::PassFocusToPractice()
 {
-    if (m_drill && m_drill->isVisible() && m_main->isActiveWindow() && !QApplication::activeModalWidget())
-        m_drill->activateWindow();
+    if (m_practice && m_practice->isVisible() && m_main->isActiveWindow() &&
+        !QApplication::activeModalWidget())
+        m_practice->activateWindow();
 }

@@ -21,7 +21,9 @@ public:
 
     bool CanOpenDrill(DrillKind kind) override;
     void OpenDrill(DrillKind kind, QWidget *instead = nullptr) override;
-    bool OpenSpeedTest() override;
+    void OpenSpeedTest(QWidget *instead = nullptr) override;
+    void OpenFreeTyping(QWidget *instead = nullptr) override;
+    void ShowTopList(QWidget *owner) override;
     bool OpenPersonalRecords() override;
     void ShowMainMenu() override;
     void MinimizeAll() override;
@@ -31,8 +33,12 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void PassFocusToDrill();
+    /// Only one drill or test is open at a time: brings another one that is open to the front instead.
+    bool IsBusy(const QWidget *instead);
+    template <typename Window, typename Show>
+    void OpenPractice(QWidget *instead, Show show);
+    void PassFocusToPractice();
 
     QPointer<Frm_Main> m_main;
-    QPointer<QWidget> m_drill;
+    QPointer<QWidget> m_practice;
 };

@@ -19,7 +19,9 @@ public:
         if (instead)
             instead->close();
     }
-    bool OpenSpeedTest() override { return false; }
+    void OpenSpeedTest(QWidget *instead) override { Lead(QStringLiteral("speed test"), instead); }
+    void OpenFreeTyping(QWidget *instead) override { Lead(QStringLiteral("free typing"), instead); }
+    void ShowTopList(QWidget *) override { tests += QStringLiteral("top list"); }
     bool OpenPersonalRecords() override { return false; }
     void ShowMainMenu() override { ++menuShown; }
     void MinimizeAll() override { ++minimized; }
@@ -30,6 +32,15 @@ public:
     int menuShown = 0;
     int minimized = 0;
     QStringList helpPages;
+    QStringList tests; ///< speed tests and the top list
+
+private:
+    void Lead(const QString &where, QWidget *instead)
+    {
+        tests += where;
+        if (instead)
+            instead->close();
+    }
 };
 
 /// Answers messages and keeps their texts, as long as the object lives.

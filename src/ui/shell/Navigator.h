@@ -15,7 +15,11 @@ public:
     virtual bool CanOpenDrill(DrillKind kind) = 0;
     /// Opens a drill over the main window and closes `instead`, if any, once the new one is shown.
     virtual void OpenDrill(DrillKind kind, QWidget *instead = nullptr) = 0;
-    virtual bool OpenSpeedTest() = 0;
+    /// Opens the speed test of the shared `TestSource`; the rest as for a drill.
+    virtual void OpenSpeedTest(QWidget *instead = nullptr) = 0;
+    virtual void OpenFreeTyping(QWidget *instead = nullptr) = 0;
+    /// Shows the fastest tests of all users over `owner` until it is closed.
+    virtual void ShowTopList(QWidget *owner) = 0;
     virtual bool OpenPersonalRecords() = 0;
     /// Brings the main window to the front.
     virtual void ShowMainMenu() = 0;

@@ -6,8 +6,10 @@
 #include "ui/widgets/ChartScale.h"
 
 #include <QAbstractButton>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QTest>
+#include <QToolTip>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -145,8 +147,9 @@ private Q_SLOTS:
             data.kind = kind;
             chart.SetData(data);
             const QImage image = Painted(chart, 1);
-            if (kind == ChartData::Kind::Bar)
-                QCOMPARE(!ColumnRuns(image, BarColor).isEmpty(), visible);
+            // A line runs along the axis where there is no scale; a bar has no height there.
+            const bool flatLine = kind == ChartData::Kind::Line && values.value(0) > 0;
+            QCOMPARE(!ColumnRuns(image, BarColor).isEmpty(), visible || flatLine);
             // Nothing is painted over the panel's edge.
             for (int y = 20; y < 240; ++y)
                 QCOMPARE(image.pixelColor(0, y), image.pixelColor(499, y));
@@ -206,6 +209,10 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
         auto *chart = dialog.findChild<QWidget *>(u"picChart"_s);
         QCOMPARE(chart->accessibleDescription(), u"0.5: 80, 1: 110, 1.5: 60"_s);
+        const QPoint middle = chart->rect().center();
+        QHelpEvent hover(QEvent::ToolTip, middle, chart->mapToGlobal(middle));
+        QCoreApplication::sendEvent(chart, &hover);
+        QCOMPARE(QToolTip::text(), u"1: 110"_s);
         QTest::mouseClick(dialog.findChild<QAbstractButton *>(u"optChart1"_s), Qt::LeftButton, {}, {10, 10});
         QCOMPARE(chart->accessibleDescription(), u"中: 4, q: 1"_s);
         QTest::keyClick(&dialog, Qt::Key_Return);

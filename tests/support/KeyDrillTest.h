@@ -6,11 +6,8 @@
 #include "support/SkinnedInstall.h"
 #include "ui/drills/frmEn_KeyTrain_Basic.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QLabel>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
+#include <QtWidgets>
 
 /// A junior key drill of the user Ann in an install folder of its own: what a person sees and does there.
 class KeyDrillTest : public QObject
@@ -24,31 +21,27 @@ protected:
         m_install.emplace(QStringLiteral("Ann"));
         m_navigator.emplace();
         m_messages.emplace();
-        m_owner = std::make_unique<QWidget>();
-        WriteLesson(QStringLiteral("00.txt"), QStringLiteral("Home row\r\nas Df\r\n  1!  \tx\r\n"));
+        WriteLesson("00.txt", QStringLiteral("Home row\r\nas Df\r\n  1!  \tx\r\n"));
     }
-    void TearDown()
-    {
-        delete m_drill;
-        m_owner.reset();
-        m_messages.reset();
-        m_navigator.reset();
-        m_install.reset();
-        m_services.reset();
-    }
+    void TearDown() { delete m_drill; }
 
-    void WriteLesson(const QString &name, const QString &text)
+    void WriteLesson(const char *name, const QString &text)
     {
-        m_install->Write(StandardFolder + name, text.toUtf8());
+        m_install->Write(StandardFolder + QLatin1StringView(name), text.toUtf8());
     }
-    void Open(int index = 0)
+    void Open(const QString &index = QString())
     {
-        if (index != 0)
-            Store(QStringLiteral("KeyTrain_Index"), QString::number(index));
-        m_drill = new frmEn_KeyTrain_Basic(*m_navigator, m_owner.get());
+        if (!index.isNull())
+            Store(QStringLiteral("KeyTrain_Index"), index);
+        m_drill = new frmEn_KeyTrain_Basic(*m_navigator, &m_owner);
         m_drill->ShowDrill();
         QVERIFY(QTest::qWaitForWindowActive(m_drill));
         QTest::qWait(0);
+    }
+    void Leave()
+    {
+        m_drill->close();
+        QTRY_VERIFY(m_drill.isNull());
     }
     static void Store(const QString &key, const QString &value,
                       const QString &section = QStringLiteral("English"))
@@ -61,45 +54,60 @@ protected:
     {
         return SettingFile(Public_Function::SettingFilePath()).Text(section, key, QStringLiteral("-"));
     }
+    /// What is stored of the keys that were missed, in hexadecimal digits.
+    QByteArray Mistakes() const { return m_install->Read(QStringLiteral("Users/Ann/MistakeEN.Dat")).toHex(); }
+
     void Type(const QString &text) { QTest::keyClicks(m_drill, text); }
-    QLabel *Label(const QString &name) const { return m_drill->findChild<QLabel *>(name); }
-    QString Text(const QString &name) const { return Label(name)->text(); }
-    QAbstractButton *Button(const QString &name) const { return m_drill->findChild<QAbstractButton *>(name); }
-    QWidget *Part(const QString &name) const { return m_drill->findChild<QWidget *>(name); }
-    QString Keys() const { return Part(QStringLiteral("PromptKeys"))->accessibleDescription(); }
-    QString Cap(int index) const
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     {
-        const QWidget *cap = Part(QStringLiteral("PromptKey") + QString::number(index));
-        return cap->accessibleName() + QStringLiteral(": ") + cap->accessibleDescription();
+        QTest::keyClick(m_drill, key, modifiers);
     }
-    QString Keyboard() const { return Part(QStringLiteral("CXKeyBoard1"))->accessibleDescription(); }
-    bool IsRunning() const { return m_drill->findChild<QTimer *>(QStringLiteral("Timer1"))->isActive(); }
-    void Tick()
+    void InputMethod(const QString &preedit, const QString &commit)
     {
-        QMetaObject::invokeMethod(m_drill->findChild<QTimer *>(QStringLiteral("Timer1")), "timeout");
+        QInputMethodEvent event(preedit, {});
+        event.setCommitString(commit);
+        QCoreApplication::sendEvent(m_drill, &event);
     }
-    QStringList Status()
-    {
-        Tick();
-        return {Text(QStringLiteral("labTime")), Text(QStringLiteral("labSpeed")),
-                Text(QStringLiteral("labVeracity")), Part(QStringLiteral("picProgress"))->toolTip()};
-    }
-    /// Does something to the next dialog that opens.
-    void InDialog(std::function<void(QWidget *)> action)
+    void Click(const char *name) { QTest::mouseClick(Part(name), Qt::LeftButton); }
+    /// Does something to the next dialog that opens, or leaves it by Escape.
+    void InDialog(std::function<void(QWidget *)> action = [](QWidget *dialog) {
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    })
     {
         QTimer::singleShot(0, this, [action] {
             QWidget *dialog = QApplication::activeModalWidget();
-            if (dialog && QTest::qWaitForWindowActive(dialog))
+            if (dialog && QTest::qWaitFor([dialog] { return dialog->isActiveWindow(); }))
                 action(dialog);
             if (QApplication::activeModalWidget() == dialog && dialog)
                 qFatal("the dialog stays open");
         });
     }
 
+    QWidget *Part(const char *name) const { return m_drill->findChild<QWidget *>(QString::fromLatin1(name)); }
+    QString Text(const char *label) const { return qobject_cast<QLabel *>(Part(label))->text(); }
+    QString State(const char *name) const { return Part(name)->accessibleDescription(); }
+    QString Keys() const { return State("PromptKeys"); }
+    QString Keyboard() const { return State("CXKeyBoard1"); }
+    QString Cap(int index) const
+    {
+        const QWidget *cap = Part(qPrintable(QStringLiteral("PromptKey%1").arg(index)));
+        return cap->accessibleName() + QStringLiteral(": ") + cap->accessibleDescription();
+    }
+    bool IsRunning() const { return m_drill->findChild<QTimer *>()->isActive(); }
+    QStringList Status() const
+    {
+        QMetaObject::invokeMethod(m_drill->findChild<QTimer *>(), "timeout");
+        return Shown();
+    }
+    QStringList Shown() const
+    {
+        return {Text("labTime"), Text("labSpeed"), Text("labVeracity"), Part("picProgress")->toolTip()};
+    }
+
     std::optional<FakeServices> m_services;
     std::optional<SkinnedInstall> m_install;
     std::optional<FakeNavigator> m_navigator;
     std::optional<FakeAnswers> m_messages;
-    std::unique_ptr<QWidget> m_owner;
+    QWidget m_owner;
     QPointer<frmEn_KeyTrain_Basic> m_drill;
 };

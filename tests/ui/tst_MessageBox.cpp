@@ -2,19 +2,27 @@
 #include "ui/shell/ShowMessage.h"
 #include "ui/widgets/SkinButton.h"
 
-#include <QApplication>
-#include <QLabel>
-#include <QScreen>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
+#include <QtWidgets>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString LongText =
-    u"A message that is long enough to need more than three lines of the label, which is only two "
-    "hundred pixels wide, so that the box must grow with it to show every word of it."_s;
+/// A box that was shown, and its parts.
+struct Box : Dlg_MessageBox
+{
+    Box(const QString &text, MessageIcon kind, MessageButtons buttons)
+        : Dlg_MessageBox(nullptr)
+    {
+        CreateMessage(text, u"Quorvex"_s, kind, buttons);
+        show();
+    }
+    QLabel *icon = findChild<QLabel *>(u"ImgMessageInfo"_s);
+    QLabel *label = findChild<QLabel *>(u"LabMessageInfo"_s);
+    SkinButton *yes = findChild<SkinButton *>(u"XBtnOK"_s);
+    SkinButton *no = findChild<SkinButton *>(u"XBtnCancel"_s);
+};
 
 } // namespace
 
@@ -23,131 +31,79 @@ class TestMessageBox : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_install.emplace(); }
-
-    void AnswersLikeThePerson_data()
-    {
-        QTest::addColumn<MessageButtons>("buttons");
-        QTest::addColumn<QString>("act");
-        QTest::addColumn<qint16>("answer");
-        const qint16 yes = 6;
-        const qint16 no = 7;
-        QTest::newRow("Enter says yes") << MessageButtons::YesNo << u"Enter"_s << yes;
-        QTest::newRow("Escape says no") << MessageButtons::YesNo << u"Escape"_s << no;
-        QTest::newRow("click on No") << MessageButtons::YesNo << u"XBtnCancel"_s << no;
-        QTest::newRow("click on Yes") << MessageButtons::YesNo << u"XBtnOK"_s << yes;
-        QTest::newRow("Tab and Space press No") << MessageButtons::YesNo << u"Tab Space"_s << no;
-        QTest::newRow("Tab and Enter press No") << MessageButtons::YesNo << u"Tab Enter"_s << no;
-        QTest::newRow("Alt+F4 says no") << MessageButtons::YesNo << u"Alt+F4"_s << no;
-        QTest::newRow("OK by Enter") << MessageButtons::Ok << u"Enter"_s << yes;
-        QTest::newRow("OK closed by its title bar") << MessageButtons::Ok << u"XBtn_Sys_Close"_s << no;
-        QTest::newRow("OK by Escape") << MessageButtons::Ok << u"Escape"_s << no;
-    }
-
     void AnswersLikeThePerson()
     {
-        QFETCH(MessageButtons, buttons);
-        QFETCH(QString, act);
-        bool acted = false;
-        QTimer::singleShot(0, this, [&] {
-            QWidget *box = QApplication::activeModalWidget();
-            QVERIFY(QTest::qWaitForWindowActive(box));
-            for (const QString &step : act.split(u' ')) {
-                if (auto *button = box->findChild<SkinButton *>(step)) {
-                    QVERIFY(button->isVisible());
-                    QTest::mouseClick(button, Qt::LeftButton);
-                } else if (step == u"Alt+F4"_s) {
-                    QTest::keyClick(box, Qt::Key_F4, Qt::AltModifier);
-                } else {
-                    const auto key = QKeySequence::fromString(step)[0].key();
-                    QTest::keyClick(QApplication::focusWidget(), key);
+        using Row = std::tuple<MessageButtons, QString, qint16>;
+        constexpr auto yesNo = MessageButtons::YesNo;
+        constexpr auto ok = MessageButtons::Ok;
+        for (const auto &[buttons, act, expected] :
+             {Row{yesNo, u"Enter"_s, 6}, Row{yesNo, u"Escape"_s, 7}, Row{yesNo, u"XBtnCancel"_s, 7},
+              Row{yesNo, u"XBtnOK"_s, 6}, Row{yesNo, u"Tab Space"_s, 7}, Row{yesNo, u"Tab Enter"_s, 7},
+              Row{yesNo, u"Alt+F4"_s, 7}, Row{ok, u"Return"_s, 6}, Row{ok, u"XBtn_Sys_Close"_s, 7}}) {
+            bool acted = false;
+            QTimer::singleShot(0, this, [&acted, steps = act.split(u' ')] {
+                QWidget *box = QApplication::activeModalWidget();
+                QVERIFY(QTest::qWaitForWindowActive(box));
+                for (const QString &step : steps) {
+                    const auto key = QKeySequence::fromString(step)[0];
+                    if (auto *button = box->findChild<SkinButton *>(step))
+                        QTest::mouseClick(button, Qt::LeftButton);
+                    else
+                        QTest::keyClick(QApplication::focusWidget(), key.key(), key.keyboardModifiers());
                 }
-            }
-            acted = true;
-        });
-        const qint16 answer =
-            Public_Function::ShowMessage(u"Continue?"_s, u"Confirm"_s, MessageIcon::Question, buttons);
-        QVERIFY(acted);
-        QTEST(answer, "answer");
-    }
-
-    void SizeFollowsTheText_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("nothing") << QString();
-        QTest::newRow("one line") << u"Finished."_s;
-        QTest::newRow("many lines") << LongText;
-        QTest::newRow("a path without a break") << u"C:\\"_s + u"folder\\"_s.repeated(40);
-        QTest::newRow("taller than the screen") << LongText.repeated(60);
-        QTest::newRow("Chinese") << u"请先切换到英文输入法。"_s.repeated(12);
+                acted = true;
+            });
+            QCOMPARE(Public_Function::ShowMessage(act, u"Confirm"_s, MessageIcon::Question, buttons),
+                     expected);
+            QVERIFY(acted);
+        }
     }
 
     void SizeFollowsTheText()
     {
-        QFETCH(QString, text);
-        Dlg_MessageBox box(nullptr);
-        box.CreateMessage(text, u"Quorvex"_s, MessageIcon::Error, MessageButtons::YesNo);
-        box.show();
-        const auto *label = box.findChild<QLabel *>(u"LabMessageInfo"_s);
-        const auto *yes = box.findChild<SkinButton *>(u"XBtnOK"_s);
-        const auto *no = box.findChild<SkinButton *>(u"XBtnCancel"_s);
-        QCOMPARE(box.width(), 300);
-        QCOMPARE(label->width(), 200);
-        const int asked = label->height() <= 50 ? 160 : label->height() + 80;
-        QCOMPARE(box.height(), qMin(asked, box.screen()->geometry().height() - 40));
-        QVERIFY(box.screen()->geometry().contains(box.geometry()));
-        // Nothing of the text runs out of the label to the right.
-        QVERIFY(label->fontMetrics()
-                    .boundingRect(QRect(0, 0, 200, 99999), Qt::TextWordWrap, label->text())
-                    .width() <= 200);
-        // The text keeps clear of the title bar and of the buttons, which stand in mirrored places.
-        const QRect shown(label->parentWidget()->mapTo(&box, QPoint()), label->parentWidget()->size());
-        QVERIFY(shown.top() >= box.TitleHeight());
-        QVERIFY(shown.bottom() < yes->y());
-        QCOMPARE(yes->y(), box.height() - 45);
-        QCOMPARE(no->y(), yes->y());
-        QCOMPARE(box.width() - no->geometry().right() - 1, yes->x());
-    }
-
-    void OneButtonIsCentred()
-    {
-        Dlg_MessageBox box(nullptr);
-        box.CreateMessage(u"Done."_s, u"Quorvex"_s, MessageIcon::None, MessageButtons::Ok);
-        box.show();
-        const auto *ok = box.findChild<SkinButton *>(u"XBtnOK"_s);
-        QCOMPARE(ok->x(), (box.width() - ok->width()) / 2);
-        QVERIFY(!box.findChild<SkinButton *>(u"XBtnCancel"_s)->isVisible());
-        QVERIFY(box.findChild<QLabel *>(u"ImgMessageInfo"_s)->pixmap().isNull());
-    }
-
-    void EachKindHasItsIcon()
-    {
-        QList<QImage> icons;
-        for (const auto kind :
-             {MessageIcon::Information, MessageIcon::Stop, MessageIcon::Error, MessageIcon::Question}) {
-            Dlg_MessageBox box(nullptr);
-            box.CreateMessage(u"Text"_s, u"Quorvex"_s, kind, MessageButtons::Ok);
-            const QImage icon = box.findChild<QLabel *>(u"ImgMessageInfo"_s)->pixmap().toImage();
-            QVERIFY(!icon.isNull());
-            QVERIFY(!icons.contains(icon));
-            icons.append(icon);
+        const QString sentence =
+            u"A message that is long enough to need more than three lines of the label. "_s;
+        for (const QString &text :
+             {QString(), u"Finished."_s, sentence.repeated(3), sentence.repeated(150),
+              u"C:\\"_s + u"folder\\"_s.repeated(40), u"请先切换到英文输入法。"_s.repeated(12)}) {
+            const Box box(text, MessageIcon::Error, MessageButtons::YesNo);
+            const QRect screen = box.screen()->geometry();
+            QCOMPARE(box.width(), 300);
+            QCOMPARE(box.label->width(), 200);
+            const int asked = box.label->height() <= 50 ? 160 : box.label->height() + 80;
+            QCOMPARE(box.height(), qMin(asked, screen.height() - 40));
+            QVERIFY(screen.contains(box.geometry()));
+            // Nothing of the text runs out of the label to the right.
+            const QRect words = box.label->fontMetrics().boundingRect(QRect(0, 0, 200, 99999),
+                                                                      Qt::TextWordWrap, box.label->text());
+            QVERIFY(words.width() <= 200);
+            // The text keeps clear of the title bar and of the buttons, which stand in mirrored places.
+            const QWidget *view = box.label->parentWidget();
+            QVERIFY(view->mapTo(&box, QPoint()).y() >= box.TitleHeight());
+            QVERIFY(view->mapTo(&box, view->rect().bottomLeft()).y() < box.yes->y());
+            QCOMPARE(box.yes->y(), box.height() - 45);
+            QCOMPARE(box.no->y(), box.yes->y());
+            QCOMPARE(box.width() - box.no->geometry().right() - 1, box.yes->x());
         }
     }
 
-    void WithoutASkinItStillAsks()
+    void OneButtonIsCentredAndEachKindHasItsIcon()
     {
-        m_install.reset();
-        TestInstall bare;
-        Dlg_MessageBox box(nullptr);
-        box.CreateMessage(u"Continue?"_s, u"Quorvex"_s, MessageIcon::Question, MessageButtons::YesNo);
-        box.show();
-        QVERIFY(!box.grab().isNull());
-        QTest::mouseClick(box.findChild<SkinButton *>(u"XBtnOK"_s), Qt::LeftButton);
-        QVERIFY(box.GetReturnValue());
+        QList<QImage> icons;
+        for (const auto kind : {MessageIcon::None, MessageIcon::Information, MessageIcon::Stop,
+                                MessageIcon::Error, MessageIcon::Question}) {
+            const Box box(u"Done."_s, kind, MessageButtons::Ok);
+            QCOMPARE(box.yes->x(), (box.width() - box.yes->width()) / 2);
+            QVERIFY(!box.no->isVisible());
+            const QImage icon = box.icon->pixmap().toImage();
+            QCOMPARE(icon.isNull(), kind == MessageIcon::None);
+            QVERIFY(!icons.contains(icon));
+            icons += icon;
+        }
     }
 
 private:
-    std::optional<SkinnedInstall> m_install;
+    SkinnedInstall m_install;
 };
 
 QTEST_MAIN(TestMessageBox)

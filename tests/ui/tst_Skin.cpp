@@ -1,45 +1,43 @@
 #include "support/SkinnedInstall.h"
 #include "ui/skin/SkinLibrary.h"
 #include "ui/skin/SkinnedDialog.h"
-#include "ui/skin/WindowFrame.h"
+#include "ui/skin/StatusTexts.h"
+#include "ui/widgets/ProgressBox.h"
 #include "ui/widgets/SkinButton.h"
 #include "ui/widgets/TitleBar.h"
 
-#include <QPainter>
-#include <QSignalSpy>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class SomeDialog : public SkinnedDialog
+struct SomeDialog : SkinnedDialog
 {
-public:
-    explicit SomeDialog(QWidget *owner = nullptr)
-        : SkinnedDialog(owner)
+    SomeDialog()
+        : SkinnedDialog(nullptr)
         , BtnOk(new SkinButton(u"BtnOk"_s, u"OK"_s, this))
         , BtnCancel(new SkinButton(u"BtnCancel"_s, u"Cancel"_s, this))
     {
         resize(420, 240);
-        Skin(2);
+        SkinDialog(u"A title"_s);
+        SkinOkCancel(BtnOk, BtnCancel, 2);
         SetDefaultButton(BtnOk);
         connect(BtnOk, &SkinButton::clicked, this, &QDialog::accept);
         connect(BtnCancel, &SkinButton::clicked, this, &QDialog::reject);
+        show();
+        static_cast<void>(QTest::qWaitForWindowActive(this));
     }
 
-    void Skin(int layout)
-    {
-        SkinDialog(u"A title"_s);
-        SkinOkCancel(BtnOk, BtnCancel, layout);
-    }
-
+    using SkinnedDialog::SkinOkCancel;
     SkinButton *BtnOk;
     SkinButton *BtnCancel;
 };
 
 } // namespace
 
+/// The pictures, what is painted and written with them, and the dialog frame.
 class TestSkin : public QObject
 {
     Q_OBJECT
@@ -47,200 +45,158 @@ class TestSkin : public QObject
 private Q_SLOTS:
     void init() { m_install.emplace(); }
 
-    void PicturesKeepTheirLogicalSize_data()
-    {
-        QTest::addColumn<double>("ratio");
-        for (const double ratio : {0.8, 1.0, 1.25, 1.5, 2.0, 3.0})
-            QTest::newRow(qPrintable(QString::number(ratio))) << ratio;
-    }
-
     void PicturesKeepTheirLogicalSize()
     {
-        QFETCH(double, ratio);
         const SkinLibrary library;
-        for (const QString &name : {u"BTN_OK"_s, u"MAIN_BACK"_s, u"ICON_TIME"_s}) {
-            const QPixmap picture = library.Bitmap(name, ratio);
-            QVERIFY(!picture.isNull());
-            const QSizeF off = picture.deviceIndependentSize() - QSizeF(library.BitmapSize(name));
-            QVERIFY2(qAbs(off.width()) <= 1 && qAbs(off.height()) <= 1, qPrintable(name));
+        for (const QString &color : {u"focus"_s, u"window.title"_s, u"panel.face"_s, u"keyboard.ground"_s})
+            QVERIFY2(library.Color(color, QColor()).isValid(), qPrintable(color));
+        for (const double ratio : {0.8, 1.0, 1.25, 1.5, 2.0, 3.0}) {
+            for (const QString &name : {u"BTN_OK"_s, u"MAIN_BACK"_s, u"ICON_TIME"_s}) {
+                const QPixmap picture = library.Bitmap(name, ratio);
+                QVERIFY2(!picture.isNull(), qPrintable(name));
+                const QSizeF off = picture.deviceIndependentSize() - QSizeF(library.BitmapSize(name));
+                QVERIFY2(qAbs(off.width()) <= 1 && qAbs(off.height()) <= 1, qPrintable(name));
+            }
         }
-    }
-
-    void ADamagedLibraryIsNoPictures_data()
-    {
-        QTest::addColumn<int>("keep"); // -1: no file, -2: zeroes in the middle
-        QTest::newRow("missing") << -1;
-        QTest::newRow("empty") << 0;
-        QTest::newRow("cut in the header") << 50;
-        QTest::newRow("cut in a page") << 30000;
-        QTest::newRow("overwritten") << -2;
     }
 
     void ADamagedLibraryIsNoPictures()
     {
-        QFETCH(int, keep);
-        QByteArray bytes = m_install->Read(u"Bitmap/1024_CH.DLL"_s);
-        QVERIFY(bytes.size() > 100000);
+        const QByteArray whole = m_install->Read(u"Bitmap/1024_CH.DLL"_s);
+        QVERIFY(whole.size() > 100000);
         m_install.reset();
-        TestInstall broken;
-        if (keep >= 0)
-            broken.Write(u"Bitmap/1024_CH.DLL"_s, bytes.left(keep));
-        else if (keep == -2)
-            broken.Write(u"Bitmap/1024_CH.DLL"_s,
-                         bytes.replace(2000, bytes.size() - 4000, QByteArray(bytes.size() - 4000, '\0')));
+        const TestInstall own;
+        own.Write(u"Bitmap/1024_CH.DLL"_s, whole);
+        QVERIFY(!SkinLibrary().Bitmap(u"MAIN_BG"_s, 1).isNull());
+        // Empty, cut in the header and in a page, overwritten in the middle, gone; each shows at once.
+        for (const QByteArray &bytes :
+             {QByteArray(""), whole.left(50), whole.left(30000),
+              whole.left(2000) + QByteArray(whole.size() - 2000, '\0'), QByteArray()}) {
+            own.Write(u"Bitmap/1024_CH.DLL"_s, bytes);
+            if (bytes.isNull())
+                QFile::remove(own.Native(u"Bitmap/1024_CH.DLL"_s));
+            const SkinLibrary library;
+            QVERIFY(library.Bitmap(u"MAIN_BG"_s, 1).isNull());
+            QVERIFY(!library.IsUsable());
+            QCOMPARE(library.Color(u"focus"_s, Qt::green), QColor(Qt::green));
+            SomeDialog dialog;
+            QVERIFY(!dialog.grab().isNull());
+            QTest::mouseClick(dialog.BtnOk, Qt::LeftButton);
+            QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        }
+    }
+
+    void ButtonShowsItsStateAndTakesKeys()
+    {
         const SkinLibrary library;
-        QVERIFY(library.Bitmap(u"MAIN_BG"_s, 1).isNull());
-        QVERIFY(!library.IsUsable());
-        QCOMPARE(library.Color(u"focus"_s, Qt::green), QColor(Qt::green));
-        SomeDialog dialog;
-        dialog.show();
-        QVERIFY(!dialog.grab().isNull());
-        QTest::mouseClick(dialog.BtnOk, Qt::LeftButton);
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
-    }
+        for (const auto &[bitmap, frames] : {std::pair(u"BTN_OK"_s, 4), {u"BTN_DELETE"_s, 5}}) {
+            QWidget window;
+            SkinButton button(u"Btn"_s, u"Button"_s, &window);
+            button.SetButton(bitmap, library, frames);
+            const QSize strip = library.BitmapSize(bitmap);
+            QCOMPARE(button.size(), QSize(strip.width() / frames, strip.height()));
+            window.show();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            window.setFocus();
+            QList<QImage> looks;
+            const auto looksNew = [&] {
+                looks += button.grab().toImage();
+                return looks.indexOf(looks.constLast()) == looks.size() - 1;
+            };
+            QVERIFY(looksNew());
+            button.setFocus();
+            QVERIFY(looksNew());
+            button.setDown(true);
+            QVERIFY(looksNew());
+            button.setDown(false);
 
-    void AReplacedLibraryShowsAtOnce()
-    {
-        const QByteArray bytes = m_install->Read(u"Bitmap/1024_CH.DLL"_s);
-        m_install.reset();
-        TestInstall own;
-        own.Write(u"Bitmap/1024_CH.DLL"_s, bytes);
-        QVERIFY(!SkinLibrary().Bitmap(u"BTN_OK"_s, 1).isNull());
-        own.Write(u"Bitmap/1024_CH.DLL"_s, "replaced");
-        QVERIFY(SkinLibrary().Bitmap(u"BTN_OK"_s, 1).isNull());
-    }
-
-    void ButtonTakesOneFrame_data()
-    {
-        QTest::addColumn<QString>("bitmap");
-        QTest::addColumn<int>("frames");
-        QTest::newRow("four frames") << u"BTN_OK"_s << 4;
-        QTest::newRow("five frames") << u"BTN_DELETE"_s << 5;
-    }
-
-    void ButtonTakesOneFrame()
-    {
-        QFETCH(QString, bitmap);
-        QFETCH(int, frames);
-        const SkinLibrary library;
-        QWidget window;
-        SkinButton button(u"Btn"_s, u"Button"_s, &window);
-        button.SetButton(bitmap, library, frames);
-        const QSize strip = library.BitmapSize(bitmap);
-        QCOMPARE(button.size(), QSize(strip.width() / frames, strip.height()));
-
-        // Every state looks different from every other.
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        window.setFocus();
-        QList<QImage> looks{button.grab().toImage()};
-        button.setFocus();
-        looks.append(button.grab().toImage());
-        button.setDown(true);
-        looks.append(button.grab().toImage());
-        button.setDown(false);
-        button.setEnabled(false);
-        looks.append(button.grab().toImage());
-        for (qsizetype i = 0; i < looks.size(); ++i)
-            QCOMPARE(looks.indexOf(looks[i]), i);
-    }
-
-    void KeysPressAButton()
-    {
-        QWidget window;
-        SkinButton button(u"Btn"_s, u"Button"_s, &window);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        button.setFocus();
-        QVERIFY(button.hasFocus());
-        QSignalSpy clicks(&button, &SkinButton::clicked);
-        for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
-            QTest::keyClick(&button, key);
-        QCOMPARE(clicks.size(), 3);
-        button.setEnabled(false);
-        QTest::keyClick(&button, Qt::Key_Return);
-        QTest::mouseClick(&button, Qt::LeftButton);
-        QCOMPARE(clicks.size(), 3);
+            QSignalSpy clicks(&button, &SkinButton::clicked);
+            for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
+                QTest::keyClick(&button, key);
+            QCOMPARE(clicks.size(), 3);
+            button.setEnabled(false);
+            QVERIFY(looksNew());
+            QTest::keyClick(&button, Qt::Key_Return);
+            QTest::mouseClick(&button, Qt::LeftButton);
+            QCOMPARE(clicks.size(), 3);
+        }
     }
 
     void DialogFrame()
     {
         SomeDialog dialog;
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
-        const SkinLibrary library;
-        const int title = library.BitmapSize(u"DIALOG_TITLE"_s).height();
-        const auto *bar = dialog.findChild<TitleBar *>(u"ImgTitleBar"_s);
+        const int title = SkinLibrary().BitmapSize(u"DIALOG_TITLE"_s).height();
+        auto *bar = dialog.findChild<TitleBar *>(u"ImgTitleBar"_s);
         QCOMPARE(bar->geometry(), QRect(0, 0, 420, title));
         const auto *close = dialog.findChild<SkinButton *>(u"XBtn_Sys_Close"_s);
-        QCOMPARE(close->x(), 420 - close->width() - 10);
-        QCOMPARE(close->y(), (title - close->height()) / 2);
+        QCOMPARE(close->pos(), QPoint(420 - close->width() - 10, (title - close->height()) / 2));
         QVERIFY((dialog.geometry().center() - dialog.screen()->geometry().center()).manhattanLength() <= 2);
         // Three equal gaps beside and between the buttons.
         const int gap = (420 - 2 * dialog.BtnOk->width()) / 3;
         QCOMPARE(dialog.BtnOk->x(), gap);
         QCOMPARE(dialog.BtnCancel->x(), 2 * gap + dialog.BtnOk->width());
         QCOMPARE(dialog.grab().toImage().pixelColor(210, 120), QColor(233, 233, 233));
-
-        const QImage once = dialog.grab().toImage();
-        dialog.Skin(2);
-        QCOMPARE(dialog.grab().toImage(), once);
-        dialog.Skin(1);
+        dialog.SkinOkCancel(dialog.BtnOk, dialog.BtnCancel, 1);
         QCOMPARE(dialog.BtnOk->x(), 420 - 120);
-    }
 
-    void DialogKeys_data()
-    {
-        QTest::addColumn<Qt::Key>("key");
-        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-        QTest::addColumn<int>("result");
-        QTest::newRow("Enter") << Qt::Key_Enter << Qt::KeyboardModifiers() << int(QDialog::Accepted);
-        QTest::newRow("Return") << Qt::Key_Return << Qt::KeyboardModifiers() << int(QDialog::Accepted);
-        QTest::newRow("Escape") << Qt::Key_Escape << Qt::KeyboardModifiers() << int(QDialog::Rejected);
-        QTest::newRow("Alt+F4") << Qt::Key_F4 << Qt::KeyboardModifiers(Qt::AltModifier)
-                                << int(QDialog::Rejected);
-    }
-
-    void DialogKeys()
-    {
-        QFETCH(Qt::Key, key);
-        QFETCH(Qt::KeyboardModifiers, modifiers);
-        SomeDialog dialog;
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
-        dialog.setResult(-1);
-        QTest::keyClick(&dialog, key, modifiers);
-        QTEST(dialog.result(), "result");
-        QVERIFY(!dialog.isVisible());
-    }
-
-    void TitleBarDragsTheDialog()
-    {
-        SomeDialog dialog;
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
-        auto *bar = dialog.findChild<TitleBar *>(u"ImgTitleBar"_s);
         const QPoint before = dialog.pos();
         QTest::mousePress(bar, Qt::LeftButton, {}, QPoint(100, 10));
         QTest::mouseMove(bar, QPoint(130, 30));
         QTest::mouseRelease(bar, Qt::LeftButton, {}, QPoint(100, 10));
-        QCOMPARE(dialog.pos() - before, QPoint(30, 20));
         QTest::mouseMove(bar, QPoint(10, 10));
         QCOMPARE(dialog.pos() - before, QPoint(30, 20));
     }
 
-    void WindowEdgeHasTwoColours()
+    void Captions()
     {
-        QImage image(60, 40, QImage::Format_RGB32);
-        image.fill(Qt::black);
+        QLabel label;
+        const auto shown = [&label] { return label.text() + u'|' + label.toolTip(); };
+        using Row = std::pair<float, QString>;
+        for (const auto &[seconds, text] :
+             {Row{307.0F, u"0:05:07|time:5minutes7seconds"_s}, Row{0.5F, u"0:00:00|time:"_s},
+              Row{59.9F, u"0:01:00|time:1minutes"_s}, Row{90061.0F, u"1:01:01|time:25Hour1minutes1seconds"_s},
+              Row{-3.0F, u"0:00:00|time:"_s}}) {
+            Public_Function::ShowTimeText(&label, seconds);
+            QCOMPARE(shown(), text);
+        }
+        Public_Function::ShowSpeedText(&label, u"120"_s, true);
+        QCOMPARE(shown(), u"120KPM|per minute 120 keys"_s);
+        Public_Function::ShowSpeedText(&label, u"24"_s, false);
+        QCOMPARE(shown(), u"24WPM|per minute  24 words"_s);
+        Public_Function::ShowRateText(&label, 96);
+        QCOMPARE(shown(), u"96%|96%"_s);
+    }
+
+    void Progress()
+    {
+        ProgressBox box(nullptr);
+        QCOMPARE(box.toolTip(), u"00 %"_s);
+        const QImage empty = box.grab().toImage();
+        for (const int percent : {40, 100, 0}) {
+            Public_Function::ShowProgress(&box, percent);
+            QCOMPARE(box.toolTip(), u"%1 %"_s.arg(percent));
+            QCOMPARE(box.accessibleDescription(), box.toolTip());
+            const QImage bar = box.grab().toImage();
+            for (const int x : {50, 62, 135})
+                QCOMPARE(bar.pixelColor(x, 8) != empty.pixelColor(x, 8), 100 * x < 140 * percent);
+        }
+        QCOMPARE(box.grab().toImage(), empty);
+    }
+
+    void TitleIsPrefixedOnce()
+    {
+        QImage image(400, 40, QImage::Format_RGB32);
         QPainter painter(&image);
-        Public_Function::DrawWindowEdge(painter, image.size());
-        painter.end();
-        for (const QPoint &corner : {QPoint(0, 0), QPoint(59, 39), QPoint(0, 20), QPoint(30, 39)})
-            QCOMPARE(image.pixelColor(corner), QColor(141, 148, 167));
-        for (const QPoint &inner : {QPoint(1, 1), QPoint(58, 38), QPoint(1, 20), QPoint(30, 38)})
-            QCOMPARE(image.pixelColor(inner), QColor(211, 214, 224));
-        QCOMPARE(image.pixelColor(2, 2), QColor(Qt::black));
+        QString title = u"Typing Course"_s;
+        for (int time = 0; time < 2; ++time)
+            Public_Function::DrawWindowTitle(painter, 2, title);
+        QCOMPARE(title, u"Quorvex -- Typing Course"_s);
+    }
+
+    void FontsFollowTheDotsPerInch()
+    {
+        Public_Function::InitFontSizes(120);
+        QCOMPARE(Shared().FontSizeTable, (std::array<qint16, 8>{19, 16, 16, 13, 26, 19, 10, 8}));
     }
 
 private:

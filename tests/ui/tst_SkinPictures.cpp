@@ -1,5 +1,6 @@
 #include "core/drills/AnsiKeyboard.h"
 #include "platform/SqliteFile.h"
+#include "ui/speedtest/TestLayout.h"
 
 #include <QDir>
 #include <QImage>
@@ -23,13 +24,18 @@ private Q_SLOTS:
             {{220, 44}, 4, {"BTN_YOUXI_RABBIT", "BTN_GERENJILU", "BTN_TUICHUDENGLU"}},
             {{40, 26}, 4, {"BTN_CLOSE", "BTN_MIN", "BTN_HELP"}},
             {{90, 30}, 4, {"BTN_OK", "BTN_CANCEL", "BTN_YES", "BTN_NO", "BTN_LOGIN"}},
+            {{90, 30}, 4, {"BTN_ACCEPT", "BTN_AGAIN", "BTN_HOME"}},
             {{90, 30}, 5, {"BTN_DELETE"}},
             {{112, 32}, 4, {"BTN_SELECTLESSON", "BTN_KEYBOARD_NUMBER", "BTN_OPERATION"}},
+            {{112, 32}, 4, {"BTN_PAUSE", "BTN_SAVE", "BTN_FINISHTEST", "BTN_FINISH", "BTN_SCORE"}},
             {{122, 32}, 4, {"BTN_KEYBOARD_STAND", "BTN_BACK"}},
             {{22, 22}, 1, {"ICON_TIME", "ICON_SPEED", "ICON_SCHEDULE", "ICON_VERACITY"}},
             {{140, 16}, 1, {"PROGRESSBAR_BLUE", "PROGRESSBAR_GREEN"}},
             {{994, 40}, 1, {"EN_LABEL_KEY_B", "EN_LABEL_KEY_E", "EN_LABEL_WORD", "EN_LABEL_ARTICLE"}},
+            {{994, 40}, 1, {"TEST_LABEL_NEIBU", "TEST_LABEL_WAIBU", "TEST_LABEL_TINGDA"}},
             {{994, 664}, 1, {"EN_KEY_BACK_B", "EN_KEY_BACK_E"}},
+            {{994, 664}, 1, {"TEST_DANHANG_BACK", "TEST_DUIZHAO_BACK", "TEST_FUGAI_BACK"}},
+            {{590, 290}, 1, {"HIGHSCORE_BACK"}},
             {{525, 162}, 1, {"HAND_CLEAR", "HAND_ON"}},
             {{64, 60}, 1, {"ICON_KEY_ON", "ICON_KEY_NORMAL"}},
             {{896, 276}, 1, {"KEYBOARD_NORMAL", "KEYBOARD_PROMPT", "KEYBOARD_PRESSED"}},
@@ -83,6 +89,53 @@ private Q_SLOTS:
                         QVERIFY2(qAlpha(strip.pixel(x, y)) == 255 && strip.pixel(x, y) != other,
                                  qPrintable(name));
                     QCOMPARE(qAlpha(strip.pixel(right + 4, y)), 0);
+                }
+            }
+        }
+    }
+
+    void TestTabsAreDrawnAsTheirHotPolygons()
+    {
+        std::size_t lit = 0;
+        for (const QString &name : {u"TEST_LABEL_NEIBU"_s, u"TEST_LABEL_WAIBU"_s, u"TEST_LABEL_TINGDA"_s}) {
+            const QImage strip = Load(name, 1);
+            const auto face = [&](std::size_t tab) {
+                return strip.pixel(TestLayout::tabs[tab % 3].left + 12, 30);
+            };
+            QVERIFY2(face(lit) != face(lit + 1) && face(lit + 1) == face(lit + 2), qPrintable(name));
+            for (std::size_t tab = 0; tab < TestLayout::tabs.size(); ++tab) {
+                const auto &[left, rightTop, rightMiddle, rightBottom] = TestLayout::tabs[tab];
+                for (const auto &[right, y] : {std::pair((rightTop + rightMiddle) / 2, 10),
+                                               {rightMiddle, 20},
+                                               {(rightMiddle + rightBottom) / 2, 30}}) {
+                    QVERIFY2(strip.pixel(left + 4, y) == face(tab) && strip.pixel(right - 4, y) == face(tab),
+                             qPrintable(name));
+                    QCOMPARE(qAlpha(strip.pixel(right + 4, y)), 0);
+                }
+            }
+            ++lit;
+        }
+    }
+
+    void EachRowOfATestHasItsFrame()
+    {
+        using TestLayout::DisplayMode;
+        for (const auto &[name, mode] : {std::pair(u"TEST_DANHANG_BACK"_s, DisplayMode::OneAboveTheOther),
+                                         {u"TEST_DUIZHAO_BACK"_s, DisplayMode::SideBySide},
+                                         {u"TEST_FUGAI_BACK"_s, DisplayMode::TypedOver}}) {
+            const QImage panel = Load(name, 1);
+            const auto isPlain = [&panel](const QRect &area) {
+                QImage plain = panel.copy(area);
+                plain.fill(panel.pixel(area.topLeft()));
+                return panel.copy(area) == plain;
+            };
+            for (int row = 0; row < TestLayout::RowsPerPage(mode); ++row) {
+                for (QRect box : {TestLayout::PromptBox(mode, row), TestLayout::InputBox(mode, row)}) {
+                    box.translate(0, -TestLayout::tabHeight);
+                    QVERIFY2(isPlain(box), qPrintable(name));
+                    for (const QMargins &side :
+                         {QMargins(3, 0, 0, 0), {0, 3, 0, 0}, {0, 0, 3, 0}, {0, 0, 0, 3}})
+                        QVERIFY2(!isPlain(box + side), qPrintable(name));
                 }
             }
         }

@@ -130,6 +130,22 @@ private Q_SLOTS:
         QCOMPARE(m_printed, QStringList());
     }
 
+    void ArrowsStayWithinTheirOptions()
+    {
+        DlgTestSelect dialog(nullptr);
+        Show(dialog);
+        const auto pressed = [](Qt::Key key) {
+            QTest::keyClick(QApplication::focusWidget(), key);
+            return QApplication::focusWidget()->objectName();
+        };
+        QCOMPARE(pressed(Qt::Key_Tab), u"optFile0"_s);
+        QCOMPARE(pressed(Qt::Key_Right), u"optFile1"_s);
+        QCOMPARE(pressed(Qt::Key_Backtab), u"OptBookFile"_s);
+        QCOMPARE(pressed(Qt::Key_Down), u"optUserFile"_s);
+        QCOMPARE(pressed(Qt::Key_Tab), u"Command1"_s);
+        QVERIFY(Part<QAbstractButton>(dialog, "optFile1")->isChecked());
+    }
+
     void CancelledBrowsingKeepsTheFile()
     {
         DlgTestSelect dialog(nullptr);

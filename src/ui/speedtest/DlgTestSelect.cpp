@@ -9,7 +9,7 @@
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/SkinButton.h"
 
-#include <QGroupBox>
+#include <QButtonGroup>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QRadioButton>
@@ -52,13 +52,18 @@ void DlgTestSelect::MakeControls()
     };
     place(OptBookFile, u"OptBookFile"_s);
     top += 30;
-    // A widget of their own keeps the four apart from the three around them.
+    // Left to themselves, all seven options would be one group.
+    auto *materials = new QButtonGroup(this);
+    for (QRadioButton *option : {OptBookFile, optUserFile, OptFreeInput})
+        materials->addButton(option);
+    auto *sampleTexts = new QButtonGroup(this);
     auto *samples = new QWidget(this);
     samples->setGeometry(indent, top, right - indent, 54);
     const std::array<QString, 4> names{tr("Sweden"), tr("Science"), tr("Christmas"), tr("Halvern")};
     for (std::size_t i = 0; i < optFile.size(); ++i) {
         optFile[i] = new QRadioButton(names[i], samples);
         optFile[i]->setObjectName(u"optFile"_s + QString::number(i));
+        sampleTexts->addButton(optFile[i]);
         Public_Function::StyleDialogOption(optFile[i]);
         const int column = static_cast<int>(i) % 2;
         const int row = static_cast<int>(i) / 2;

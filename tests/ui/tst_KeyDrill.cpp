@@ -144,6 +144,7 @@ private Q_SLOTS:
         const QString next = u"Next key: A, left little finger"_s;
         QTest::keyPress(m_drill, Qt::Key_Shift);
         QTest::keyPress(m_drill, 'k');
+        QTest::keyPress(m_drill, Qt::Key_A, Qt::ControlModifier); // swallowed
         QCOMPARE(Keyboard(), next + u". Pressed: Left Shift, K"_s);
         QTest::keyRelease(m_drill, 'k');
         QCOMPARE(Keyboard(), next + u". Pressed: Left Shift"_s);

@@ -67,6 +67,18 @@ class PinyinInput:
         self.desktop.xdotool("key", "ctrl+space")
         until(lambda: self.engine() not in (None, "", before), lambda: f"another input method than {before}")
 
+    def candidates(self):
+        """The window of the candidates, x, y, width and height, or nothing while there is none."""
+        names = ["--name", "Fcitx5 Input Window"] if self.kind == "fcitx" else ["--class", "ibus-ui-gtk"]
+        windows = self.desktop.xdotool("search", "--onlyvisible", *names, check=False).split()
+        places = [self._place(window) for window in windows]
+        return next((place for place in places if place and min(place[2:]) > 16), None)  # not the panel's icon
+
+    def _place(self, window):
+        shell = self.desktop.xdotool("getwindowgeometry", "--shell", window, check=False)
+        found = dict(line.split("=", 1) for line in shell.splitlines() if "=" in line)
+        return tuple(int(found[key]) for key in ("X", "Y", "WIDTH", "HEIGHT")) if "HEIGHT" in found else None
+
     def close(self):
         self.process.terminate()
         self.process.wait()

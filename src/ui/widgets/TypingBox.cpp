@@ -45,7 +45,8 @@ void TypingBox::PlaceAt(const QRect &cell, int rightLimit, Composition compositi
 
 void TypingBox::Place()
 {
-    QRect area(m_cell.left() - 1, m_cell.top(), CaretWidth, m_cell.height());
+    const int left = m_cell.left() - (m_composition == Composition::Below ? 1 : 0);
+    QRect area(left, m_cell.top(), CaretWidth, m_cell.height());
     if (!m_preedit.isEmpty()) {
         const int wide = fontMetrics().horizontalAdvance(m_preedit) + 2 * CompositionPadding;
         area.setWidth(wide);
@@ -183,7 +184,8 @@ void TypingBox::focusOutEvent(QFocusEvent *event)
 void TypingBox::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QRect caret(0, 4, CaretWidth, m_cell.height() - 8);
+    const int tall = qMin(fontMetrics().height(), m_cell.height());
+    const QRect caret(0, (m_cell.height() - tall) / 2, CaretWidth, tall);
     if (m_preedit.isEmpty()) {
         if (hasFocus())
             painter.fillRect(caret, CaretColor);

@@ -255,8 +255,10 @@ void TypingLine::paintEvent(QPaintEvent *event)
     EnsureLayout();
     QPainter painter(this);
     painter.fillRect(event->rect(), m_paper);
-    if (m_marked && m_position < Length())
-        painter.fillRect(CellRect(m_position).adjusted(0, 3, 0, -3), m_lit);
+    if (m_marked && m_position < Length()) {
+        const int margin = qMax(0, (height() - fontMetrics().height()) / 2 - 1);
+        painter.fillRect(CellRect(m_position).adjusted(0, margin, 0, -margin), m_lit);
+    }
     if (m_layout.lineCount() == 0)
         return;
     const QFontMetricsF metrics(font());

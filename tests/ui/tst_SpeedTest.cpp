@@ -1,0 +1,374 @@
+#include "support/SpeedTestCase.h"
+#include "ui/speedtest/frmFreeType.h"
+#include "ui/speedtest/frmTest.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QRadioButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+class tst_SpeedTest : public SpeedTestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { SetUp(); }
+    void cleanup() { TearDown(); }
+
+    void ShowsWhatIsTyped_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("subject"); // after "a", a wrong "x" and "c" of "abcd"
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("takenBack"); // the row of the typing after two backspaces
+        QTest::newRow("above") << 0 << u"abcd/----/d"_s << u"axc/rwr"_s << u"a/r"_s;
+        QTest::newRow("beside") << 1 << u"abcd/----/d"_s << u"axc/rwr"_s << u"a/r"_s;
+        QTest::newRow("over") << 2 << u"axcd/rwr-/d"_s << QString() << u"abcd/r---/b"_s;
+        QTest::newRow("alone") << 3 << QString() << u"axc/rwr"_s << u"a/r"_s;
+        QTest::newRow("a mode that does not exist") << 9 << u"abcd/----/d"_s << u"axc/rwr"_s << u"a/r"_s;
+    }
+
+    void ShowsWhatIsTyped()
+    {
+        QFETCH(int, mode);
+        QFETCH(QString, subject);
+        QFETCH(QString, input);
+        WriteText(u"abcd\r\n\r\nef"_s);
+        Shared().TestDisplayMode[0] = mode;
+        Open<frmTest>();
+        QCOMPARE(Text(u"labLessonMsg"_s), u"Speed Test/Screen Text —— E_General: lunch.txt"_s);
+        QCOMPARE(m_window->windowTitle(), u"Speed Test \\ Screen Text"_s);
+        QVERIFY(!IsRunning());
+        Type(u"a"_s);
+        QVERIFY(IsRunning());
+        Type(u"xc"_s);
+        QCOMPARE(Line(u"rtfSubject0"_s) ? Row(u"rtfSubject0"_s) : QString(), subject);
+        QCOMPARE(Line(u"rtfInput0"_s) ? Row(u"rtfInput0"_s) : QString(), input);
+        Press(Qt::Key_Delete);
+        QTest::keyClick(Box(), Qt::Key_V, Qt::ControlModifier);
+        Press(Qt::Key_Backspace);
+        Press(Qt::Key_Backspace);
+        QTEST(Row(mode == 2 ? u"rtfSubject0"_s : u"rtfInput0"_s), "takenBack");
+        // The typing box lies over the place to type at.
+        TypingLine *row = Line(mode == 2 ? u"rtfSubject0"_s : u"rtfInput0"_s);
+        QVERIFY(qAbs(Box()->x() - row->x() - row->CellRect(1).x()) <= 1);
+        QCOMPARE(Box()->y(), row->y());
+    }
+
+    void CountsAndStores()
+    {
+        WriteText(u"abcde\nfghij"_s);
+        Shared().ChSound = 1;
+        Open<frmTest>();
+        Type(u"abcdX"_s);
+        QCOMPARE(m_services->sound.TakePlayed().mid(6),
+                 QStringList({u"Type.WAV"_s, u"Type.WAV"_s, u"Type.WAV"_s, u"Error.wav"_s}));
+        m_services->clock.Move(30);
+        Tick();
+        QCOMPARE(Text(u"labTime"_s), u"0:00:30"_s);
+        QCOMPARE(Text(u"labSpeed"_s), u"10WPM"_s);
+        QCOMPARE(Text(u"labVeracity"_s), u"80%"_s);
+        QCOMPARE(m_window->findChild<QWidget *>(u"picProgress"_s)->toolTip(), u"50 %"_s);
+        Type(u"fghi"_s);
+        const QStringList result = ResultOf([this] { Type(u"j"_s); });
+        QCOMPARE(result,
+                 QStringList({u"Correct rate:  90"_s, u"Average speed: 20"_s, u"Backspace key: 0"_s}));
+        QCOMPARE(Records(), QStringList(u"20 90 Screen Text"_s));
+        QVERIFY(!IsRunning());
+        Type(u"abc"_s); // the page stays, and nothing goes on
+        QCOMPARE(Row(u"rtfInput1"_s), u"fghij/rrrrr"_s);
+        QVERIFY(m_window->close());
+        QCOMPARE(Records().size(), 1);
+        QCOMPARE(m_navigator->menuShown, 1);
+    }
+
+    void WaitsAtTheEndOfALine_data()
+    {
+        QTest::addColumn<int>("rule");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("other");
+        QTest::newRow("Enter") << 1 << int(Qt::Key_Return) << int(Qt::Key_Space);
+        QTest::newRow("Space") << 2 << int(Qt::Key_Space) << int(Qt::Key_Return);
+    }
+
+    void WaitsAtTheEndOfALine()
+    {
+        QFETCH(int, rule);
+        QFETCH(int, key);
+        QFETCH(int, other);
+        const auto goOn = static_cast<Qt::Key>(key);
+        WriteText(u"ab\ncd"_s);
+        Shared().NewLine = rule;
+        Open<frmTest>();
+        Type(u"ab"_s);
+        Type(u"c"_s);
+        Press(static_cast<Qt::Key>(other));
+        QTest::keyRelease(Box(), goOn); // its press chose a candidate of the input method
+        Type(u"c"_s);
+        QCOMPARE(Row(u"rtfInput0"_s), u"ab/rr"_s);
+        QCOMPARE(Row(u"rtfInput1"_s), u"/"_s);
+        Press(goOn);
+        Type(u"c"_s);
+        QCOMPARE(Row(u"rtfInput1"_s), u"c/r"_s);
+        Type(u"d"_s);
+        QVERIFY(IsRunning());
+        Press(Qt::Key_Backspace); // there is something to type again
+        Type(u"x"_s);
+        QCOMPARE(Row(u"rtfInput1"_s), u"cx/rw"_s);
+        Press(Qt::Key_Pause);
+        QVERIFY(!IsRunning());
+        if (rule == 2)
+            Type(u"z"_s); // goes on, and is not judged
+        QCOMPARE(ResultOf([&] { Press(goOn); }).size(), 3);
+        QCOMPARE(m_dialogsSeen, 1);
+    }
+
+    void TurnsPages()
+    {
+        WriteText(u"a1\na2\na3\na4\na5\nb1\nb2"_s);
+        Open<frmTest>();
+        Press(Qt::Key_Backspace);
+        Type(u"a1a2a3a4ax"_s);
+        QCOMPARE(Row(u"rtfSubject0"_s), u"b1/--/b"_s);
+        QCOMPARE(Row(u"rtfSubject1"_s), u"b2/--"_s);
+        QCOMPARE(Row(u"rtfSubject2"_s), u"/"_s);
+        Press(Qt::Key_Backspace);
+        QCOMPARE(Row(u"rtfSubject4"_s), u"a5/--/5"_s);
+        QCOMPARE(Row(u"rtfInput4"_s), u"a/r"_s);
+        QCOMPARE(Row(u"rtfInput0"_s), u"a1/rr"_s);
+        Press(Qt::Key_Backspace);
+        Press(Qt::Key_Backspace);
+        QCOMPARE(Row(u"rtfInput3"_s), u"a/r"_s);
+        QCOMPARE(Row(u"rtfSubject4"_s), u"a5/--"_s);
+        QCOMPARE(Row(u"rtfSubject3"_s), u"a4/--/4"_s);
+    }
+
+    void TakesInputMethods()
+    {
+        WriteText(u"你好𠀀é ab"_s);
+        Open<frmTest>();
+        Compose(u"ni hao"_s, {});
+        QVERIFY(!IsRunning());
+        QVERIFY(Box()->width() > 40); // shows what is composed
+        const QRect cursor = Box()->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+        QCOMPARE(Box()->y() + cursor.bottom(), Line(u"rtfInput0"_s)->geometry().bottom());
+        Compose({}, u"你号"_s);
+        Compose({}, u"𠀀"_s);
+        Compose({}, u"é"_s); // a dead key
+        Compose({}, u"\u3000"_s);
+        QCOMPARE(Row(u"rtfInput0"_s), u"你号𠀀é /rwrrr"_s);
+
+        // Where the text stands behind the place to type at, what is composed is shown below it.
+        Shared().TestDisplayMode[0] = 2;
+        m_window->close();
+        Open<frmTest>();
+        Compose(u"ni"_s, {});
+        QVERIFY(Box()->geometry().bottom() > Line(u"rtfSubject0"_s)->geometry().bottom() + 10);
+    }
+
+    void EndsAtTheTimeLimit()
+    {
+        WriteText(u"abcdef"_s);
+        Shared().OverType = 1;
+        Shared().LimitTime = 1;
+        Open<frmTest>();
+        Type(u"ab"_s);
+        m_services->clock.Move(50);
+        Press(Qt::Key_Pause);
+        Press(Qt::Key_Pause);
+        m_services->clock.Move(500); // does not count
+        Type(u"c"_s);
+        m_services->clock.Move(10);
+        Tick();
+        QCOMPARE(Text(u"labTime"_s), u"0:01:00"_s);
+        QVERIFY(IsRunning());
+        m_services->clock.Move(0.5);
+        QCOMPARE(ResultOf([this] { Tick(); }).value(1), u"Average speed: 3"_s);
+        QCOMPARE(Records(), QStringList(u"3 100 Screen Text"_s));
+    }
+
+    void StoresWhatIsLeft_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<QString>("leadsTo");
+        QTest::newRow("close") << u"BtnClose"_s << u""_s;
+        QTest::newRow("back") << u"BtnReturn"_s << u""_s;
+        QTest::newRow("printed text") << u"TestTab1"_s << u"free typing"_s;
+        QTest::newRow("simultaneous input") << u"TestTab2"_s << u"stays"_s;
+        QTest::newRow("own tab") << u"TestTab0"_s << u"goes on"_s;
+    }
+
+    void StoresWhatIsLeft()
+    {
+        QFETCH(QString, way);
+        QFETCH(QString, leadsTo);
+        WriteText(u"abcdef"_s);
+        Open<frmTest>();
+        Type(u"abx"_s);
+        m_services->clock.Move(10);
+        Press(Qt::Key_Pause);
+        m_services->clock.Move(100);
+        Click(way);
+        QCOMPARE(Records(), leadsTo == u"goes on"_s ? QStringList() : QStringList(u"18 66 Screen Text"_s));
+        QCOMPARE(m_navigator->tests, leadsTo == u"free typing"_s ? QStringList(leadsTo) : QStringList());
+        QCOMPARE(m_navigator->menuShown, leadsTo.isEmpty() ? 1 : 0);
+        if (leadsTo == u"free typing"_s) {
+            QCOMPARE(Shared().TestSource, 1);
+            QCOMPARE(Shared().TestDisplayMode[1], 4);
+        } else if (leadsTo == u"stays"_s) {
+            Type(u"c"_s);
+            QVERIFY(!IsRunning());
+            QCOMPARE(Row(u"rtfInput0"_s), u"abx/rrw"_s);
+            InDialog([](QWidget *dialog) { QTest::keyClick(dialog, Qt::Key_Return); });
+            Click(u"BtnSetting"_s);
+            Type(u"a"_s);
+            QVERIFY(IsRunning());
+        }
+    }
+
+    void ChangesSettings()
+    {
+        WriteText(u"abc\ndef"_s);
+        Open<frmTest>();
+        Type(u"abx"_s);
+        InDialog([](QWidget *dialog) {
+            dialog->findChild<QRadioButton *>(u"optComp2"_s)->click();
+            dialog->findChild<QRadioButton *>(u"optNewLine1"_s)->click();
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        Click(u"BtnSetting"_s);
+        QCOMPARE(m_dialogsSeen, 1);
+        QCOMPARE(Row(u"rtfSubject0"_s), u"abx/rrw"_s);
+        QCOMPARE(Row(u"rtfSubject1"_s), u"def/---/d"_s);
+        QVERIFY(!Line(u"rtfInput0"_s));
+        for (const bool retest : {false, true}) {
+            m_messages->answer = retest ? Public_Function::MessageYes : Public_Function::MessageNo;
+            InDialog([](QWidget *dialog) {
+                dialog->findChild<QRadioButton *>(u"optOverType1"_s)->click();
+                dialog->findChild<QLineEdit *>(u"txtMinutes"_s)->setText(u"25"_s);
+                QTest::keyClick(dialog, Qt::Key_Return);
+            });
+            Click(u"BtnSetting"_s);
+            QCOMPARE(Shared().OverType, retest ? 1 : 0);
+            QCOMPARE(Shared().LimitTime, qint16(retest ? 25 : 10));
+            QCOMPARE(IsRunning(), !retest);
+        }
+        QCOMPARE(m_messages->texts, QStringList(2, u"You changed the setting, would you like to retest?"_s));
+        QCOMPARE(Row(u"rtfSubject0"_s), u"abc/---/a"_s);
+        QVERIFY(Records().isEmpty());
+        m_window->close();
+        const SettingFile stored(Public_Function::SettingFilePath());
+        QCOMPARE(stored.Integer(u"Exam"_s, u"InComp"_s, -1), 2);
+        QCOMPARE(stored.Integer(u"Main"_s, u"NewLine"_s, -1), 1);
+        QCOMPARE(stored.Integer(u"Exam"_s, u"LimitTime"_s, -1), 25);
+    }
+
+    void TypesFromPaper()
+    {
+        m_install->Write(u"Data/own.txt"_s, "abc\ndef");
+        Shared().TestSource = 1;
+        Shared().TestDisplayMode[1] = 4; // as the tab leaves it
+        Shared().TestFile[1] = Shared().InstallDir + u"Data\\own.txt"_s;
+        Open<frmTest>();
+        QCOMPARE(Text(u"labLessonMsg"_s), u"Speed Test/Printed Text"_s);
+        QVERIFY(!Line(u"rtfSubject0"_s));
+        QVERIFY(!Button(u"BtnSave"_s)->isEnabled());
+        Type(u"ax"_s);
+        QCOMPARE(Row(u"rtfInput0"_s), u"ax/rw"_s);
+        QVERIFY(Button(u"BtnStop"_s)->isEnabled());
+        Public_Function::SetFileAnswerer(
+            [](Public_Function::FilePurpose) { return Shared().InstallDir + u"typed.txt"_s; });
+        Click(u"BtnSave"_s);
+        QVERIFY(!IsRunning());
+        QCOMPARE(m_install->Read(u"typed.txt"_s), QByteArray("ax\r\n"));
+        Click(u"BtnScore"_s);
+        QCOMPARE(m_navigator->tests, QStringList(u"top list"_s));
+        Type(u"c"_s);
+        QVERIFY(IsRunning());
+        Click(u"BtnPause"_s);
+        QVERIFY(!IsRunning());
+        QCOMPARE(ResultOf([this] { Click(u"BtnStop"_s); }).value(0), u"Correct rate:  66"_s);
+        QVERIFY(!Button(u"BtnPause"_s)->isEnabled());
+    }
+
+    void TypesFreely()
+    {
+        Open<frmFreeType>();
+        QCOMPARE(m_window->windowTitle(), u"Speed Test \\ Printed Text"_s);
+        Press(Qt::Key_Backspace);
+        QString line(70, u'm'); // wider than the box: the view goes along
+        Type(line);
+        const int columns = static_cast<int>(Line(u"rtfInput0"_s)->Text().size());
+        QCOMPARE(columns, qMin(70, Line(u"rtfInput0"_s)->Columns()));
+        Type(QString(qMax(0, Line(u"rtfInput0"_s)->Columns() - 70), u'm') + u"ab"_s);
+        QCOMPARE(Line(u"rtfInput1"_s)->Text().right(2), u"ab"_s);
+        while (!Line(u"rtfInput1"_s)->Text().isEmpty())
+            Press(Qt::Key_Backspace);
+        const int full = Line(u"rtfInput0"_s)->Length();
+        Press(Qt::Key_Backspace);
+        QCOMPARE(Line(u"rtfInput0"_s)->Length(), full - 1);
+        m_services->clock.Move(60);
+        const QString speed = QString::number(full - 1);
+        QCOMPARE(ResultOf([this] { Click(u"BtnOver"_s); }).mid(0, 2),
+                 QStringList({u"Correct rate:  0"_s, u"Average speed: "_s + speed}));
+        QCOMPARE(Records(), QStringList(speed + u" 100 Printed Text"_s));
+
+        InDialog([](QWidget *dialog) {
+            dialog->findChild<QRadioButton *>(u"OptFreeInput"_s)->click();
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        Click(u"BtnSelectLesson"_s);
+        QCOMPARE(Row(u"rtfInput0"_s), u"/"_s);
+        Type(u"again"_s);
+        QVERIFY(IsRunning());
+        m_install->Write(u"Data/Appendix/Sweden.txt"_s, "x");
+        m_messages->answer = Public_Function::MessageNo;
+        InDialog([](QWidget *dialog) {
+            dialog->findChild<QRadioButton *>(u"OptBookFile"_s)->click();
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        Click(u"BtnSelectLesson"_s);
+        QCOMPARE(m_navigator->tests, QStringList(u"speed test"_s));
+        QCOMPARE(Shared().TestDisplayMode[1], 3);
+        QVERIFY(Shared().TestFile[1].endsWith(u"Sweden.txt"_s, Qt::CaseInsensitive));
+    }
+
+    void AMillionCharactersInALine()
+    {
+        WriteText(QString(1'000'000, u'a')); // one word, which is not cut
+        Shared().TestDisplayMode[0] = 2;
+        Open<frmTest>();
+        TypingLine *row = Line(u"rtfSubject0"_s);
+        if (row->Length() == 0)
+            row = Line(u"rtfSubject1"_s);
+        QCOMPARE(row->Length(), 1'000'000);
+        QCoreApplication::processEvents();
+        const qint64 before = row->LaidOutSoFar();
+        Type(QString(300, u'a'));
+        QVERIFY(row->LaidOutSoFar() - before < 300 * 600);
+        QCOMPARE(row->Mark(), 300);
+        QVERIFY(row->rect().contains(row->CellRect(300)));
+        QVERIFY(row->CellRect(0).isNull());
+        Press(Qt::Key_Backspace);
+        QCOMPARE(row->Mark(), 299);
+    }
+
+    void ATextThatIsMissingOrEmpty()
+    {
+        Open<frmTest>();
+        Type(u"a"_s);
+        QVERIFY(!IsRunning());
+        m_window->close();
+        WriteText(u"\r\n\r\n"_s);
+        Open<frmTest>();
+        Type(u"a"_s);
+        QVERIFY(!IsRunning());
+        QVERIFY(Text(u"lblMsg"_s).contains(u"empty"_s));
+        m_window->close();
+        QVERIFY(Records().isEmpty());
+    }
+};
+
+QTEST_MAIN(tst_SpeedTest)
+#include "tst_SpeedTest.moc"

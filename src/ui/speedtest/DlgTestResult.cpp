@@ -8,6 +8,7 @@
 #include "ui/widgets/SkinButton.h"
 
 #include <QLabel>
+#include <QLocale>
 #include <QRadioButton>
 #include <algorithm>
 

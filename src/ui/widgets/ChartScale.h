@@ -12,7 +12,7 @@ public:
     ChartScale(double maximum, int mostMarks, bool wholeNumbers);
 
     /// 0, then the multiples of the step, then the maximum itself unless the last multiple is close to it.
-    const QList<double> &Marks() const { return m_marks; }
+    QList<double> Marks() const { return m_marks; }
     /// The part of the scale below a value, 0 to 1.
     double Share(double value) const;
 

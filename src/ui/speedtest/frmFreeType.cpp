@@ -9,6 +9,8 @@
 #include "ui/widgets/TypingLine.h"
 
 #include <QLabel>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QPointer>
 #include <algorithm>
 
@@ -16,6 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 
 frmFreeType::frmFreeType(Navigator &navigator, QWidget *owner)
     : TestWindow(u"frmFreeType"_s, navigator, std::make_unique<KFreeType>(), owner)
+    , m_ground(u"TEST_FUGAI_BACK"_s)
 {
     Shared().TestSource = 1;
     // Nothing is judged, and there is no end to come nearer to.
@@ -105,4 +108,21 @@ void frmFreeType::ChangeSettings()
         ApplyNewLine();
     else
         Load();
+}
+
+void frmFreeType::paintEvent(QPaintEvent *event)
+{
+    TestWindow::paintEvent(event);
+    // The picture is shared with the test from paper. Its names of the figures that there are none of here
+    // disappear under the plate's own ground, a column of it without anything on it, drawn out.
+    constexpr QRect unused(450, TestLayout::panelTop, 494, 50);
+    const QRect place = unused.translated(Layout().origin);
+    const qreal ratio = devicePixelRatioF();
+    const QPixmap &ground = m_ground.For(ratio);
+    if (ground.isNull() || !event->rect().intersects(place))
+        return;
+    QPainter painter(this);
+    painter.drawPixmap(
+        QRectF(place), ground,
+        QRectF(unused.x() * ratio, (unused.y() - TestLayout::tabHeight) * ratio, 1, unused.height() * ratio));
 }

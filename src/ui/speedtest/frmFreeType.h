@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/speedtest/TestWindow.h"
+#include "ui/widgets/HeldPicture.h"
 
 /// Free typing from whatever lies beside the keyboard: nothing is compared, time and speed are measured.
 class frmFreeType final : public TestWindow
@@ -20,4 +21,8 @@ protected:
     void OnTab(Source source) override;
     void SelectLesson() override;
     void ChangeSettings() override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    HeldPicture m_ground;
 };

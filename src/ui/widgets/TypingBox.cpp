@@ -45,8 +45,7 @@ void TypingBox::PlaceAt(const QRect &cell, int rightLimit, Composition compositi
 
 void TypingBox::Place()
 {
-    const int left = m_cell.left() - (m_composition == Composition::Below ? 1 : 0);
-    QRect area(left, m_cell.top(), CaretWidth, m_cell.height());
+    QRect area(m_cell.left(), m_cell.top(), CaretWidth, m_cell.height());
     if (!m_preedit.isEmpty()) {
         const int wide = fontMetrics().horizontalAdvance(m_preedit) + 2 * CompositionPadding;
         area.setWidth(wide);
@@ -184,11 +183,11 @@ void TypingBox::focusOutEvent(QFocusEvent *event)
 void TypingBox::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const int tall = qMin(fontMetrics().height(), m_cell.height());
-    const QRect caret(0, (m_cell.height() - tall) / 2, CaretWidth, tall);
     if (m_preedit.isEmpty()) {
-        if (hasFocus())
-            painter.fillRect(caret, CaretColor);
+        // Where the character to type stands under the caret, that one is lit instead.
+        const int tall = qMin(fontMetrics().height(), m_cell.height());
+        if (hasFocus() && m_composition == Composition::InLine)
+            painter.fillRect(0, (m_cell.height() - tall) / 2, CaretWidth, tall, CaretColor);
         return;
     }
     const QRect box = PreeditRect();
@@ -197,6 +196,4 @@ void TypingBox::paintEvent(QPaintEvent *)
     painter.drawText(box.adjusted(CompositionPadding, 0, -CompositionPadding, 0), Qt::AlignVCenter,
                      m_preedit);
     painter.fillRect(QRect(box.left() + 1, box.bottom() - 2, box.width() - 2, 1), CaretColor);
-    if (m_composition == Composition::Below)
-        painter.fillRect(caret, CaretColor);
 }

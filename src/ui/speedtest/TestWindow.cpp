@@ -411,8 +411,6 @@ void TestWindow::StopTimer()
 
 void TestWindow::UpdateStatus()
 {
-    if (m_nTestState == TestState::Paused)
-        return; // the clock does not stand still, but what is shown does
     const bool started = IsTestRunning();
     Public_Function::ShowTimeText(labTime, started ? static_cast<float>(m_engine->GetTime()) : 0.0F);
     Public_Function::ShowSpeedText(labSpeed, QString::number(started ? m_engine->GetAveSpeed() : 0),
@@ -441,8 +439,6 @@ void TestWindow::FinishTest()
 {
     if (!IsTestRunning())
         return;
-    if (m_nTestState == TestState::Paused)
-        m_engine->PauseType(); // the pause is no typing time
     UpdateStatus();
     CountTick();
     SetState(TestState::Idle);
@@ -467,8 +463,6 @@ void TestWindow::FinishTest()
 void TestWindow::AbortTest()
 {
     if (IsTestRunning()) {
-        if (m_nTestState == TestState::Paused)
-            m_engine->PauseType();
         StopTimer();
         SetState(TestState::Idle);
         EnablePrintedButtons(false);

@@ -204,7 +204,7 @@ void frmTest::ChangeSettings()
         LoadTest();
         return;
     }
-    UpdateStatus();
+    ShowFigures();
     ApplyNewLine();
 }
 

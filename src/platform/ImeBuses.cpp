@@ -76,7 +76,7 @@ QString IBusAddress()
 QString SessionAddress()
 {
     // Without an address libdbus would start a bus of its own.
-    const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
     if (!address.isEmpty())
         return address;
     const QString socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + u"/bus"_s;

@@ -109,7 +109,7 @@ private Q_SLOTS:
     {
         const auto module = [] {
             DBusInputMethod().ChooseRunning(untilAnswered);
-            const QByteArray chosen = qgetenv("QT_IM_MODULE");
+            QByteArray chosen = qgetenv("QT_IM_MODULE");
             qunsetenv("QT_IM_MODULE");
             return chosen;
         };

@@ -3,8 +3,8 @@
 
 #include "core/shell/Public_Define.h"
 #include "platform/Paths.h"
+#include "support/Fakes.h"
 #include "ui/shell/Frm_Main.h"
-#include "ui/shell/Navigator.h"
 #include "ui/skin/Fonts.h"
 #include "ui/skin/SkinLibrary.h"
 #include "ui/skin/StatusTexts.h"
@@ -18,18 +18,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-class NoNavigator final : public Navigator
-{
-public:
-    bool CanOpenDrill(DrillKind) override { return false; }
-    void OpenDrill(DrillKind, QWidget *) override {}
-    bool OpenSpeedTest() override { return false; }
-    bool OpenPersonalRecords() override { return false; }
-    void ShowMainMenu() override {}
-    void MinimizeAll() override {}
-    void ShowHelp(QWidget *) override {}
-};
 
 /// Tells when a window has been asked to paint; it has done so when that event is over.
 class PaintWatcher final : public QObject
@@ -45,7 +33,7 @@ public:
 
 void StartToPaintedMenu(benchmark::State &state)
 {
-    NoNavigator navigator;
+    FakeNavigator navigator;
     for ([[maybe_unused]] auto _ : state) {
         QFontDatabase::removeAllApplicationFonts();
         QPixmapCache::clear();
@@ -63,7 +51,7 @@ BENCHMARK(StartToPaintedMenu)->Unit(benchmark::kMillisecond)->MinWarmUpTime(0.2)
 
 void MenuRepaint(benchmark::State &state)
 {
-    NoNavigator navigator;
+    FakeNavigator navigator;
     Frm_Main menu(navigator);
     menu.ShowMenu();
     QCoreApplication::processEvents();

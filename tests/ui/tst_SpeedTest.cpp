@@ -79,6 +79,8 @@ private Q_SLOTS:
         Type(u"abc"_s); // the page stays, and nothing goes on
         QCOMPARE(Row(u"rtfInput1"_s), u"fghij/rrrrr"_s);
         QVERIFY(m_window->close());
+        Type(u"a"_s); // on its way when the window closed
+        Compose({}, u"a"_s);
         QCOMPARE(Records().size(), 1);
         QCOMPARE(m_navigator->menuShown, 1);
     }

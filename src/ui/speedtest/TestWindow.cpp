@@ -67,11 +67,19 @@ TestWindow::TestWindow(const QString &objectName, Navigator &navigator, std::uni
     connect(BtnSetting, &SkinButton::clicked, this, [this] { ChangeSettings(); });
     connect(BtnSelectLesson, &SkinButton::clicked, this, [this] { SelectLesson(); });
     // Nothing that was typed is lost when the program or the session ends.
-    connect(qApp, &QCoreApplication::aboutToQuit, this, &TestWindow::AbortTest);
-    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &TestWindow::AbortTest);
+    const auto storeRunning = [this] {
+        if (IsTestRunning())
+            AbortTest();
+    };
+    connect(qApp, &QCoreApplication::aboutToQuit, this, storeRunning);
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, storeRunning);
 }
 
-TestWindow::~TestWindow() = default;
+TestWindow::~TestWindow()
+{
+    // Losing the focus, it is still told what the input method was composing.
+    rtfCursor->disconnect(this);
+}
 
 void TestWindow::ShowTest()
 {
@@ -512,6 +520,7 @@ void TestWindow::closeEvent(QCloseEvent *event)
     if (!m_engine)
         return;
     AbortTest();
+    rtfCursor->disconnect(this);
     m_engine.reset(); // stores the settings before anybody else reads them
     if (!m_replaced)
         Leader().ShowMainMenu();

@@ -108,6 +108,7 @@ void TestWindow::PlaceControls()
     const QPoint origin = Layout().origin;
     labLessonMsg->setGeometry(TestLayout::lessonCaption.translated(origin));
     labHint->setGeometry(TestLayout::hint.translated(origin));
+    labHint->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     labSpeed->setGeometry(labSpeed->geometry().adjusted(-14, 0, 14, 0)); // a committed phrase is fast
     const std::pair<SkinButton *, QPoint> places[] = {
         {BtnSelectLesson, TestLayout::selectLessonButton},

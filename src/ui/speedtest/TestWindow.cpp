@@ -237,7 +237,7 @@ void TestWindow::SetState(TestState state)
         ShowHint(tr("Type the first character to start"));
         break;
     case TestState::Running:
-        ShowHint({});
+        ShowHint(tr("Press Pause to stop the clock"));
         break;
     case TestState::Paused:
         ShowHint(m_nSavedState == TestState::WaitEnter ? tr("Paused. Press Enter to go on")

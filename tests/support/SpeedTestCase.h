@@ -31,6 +31,7 @@ protected:
     void TearDown()
     {
         Public_Function::SetFileAnswerer({});
+        m_dialogHand.reset();
         delete m_window;
         m_owner.reset();
         m_messages.reset();
@@ -89,7 +90,9 @@ protected:
     void InDialog(std::function<void(QWidget *)> action)
     {
         m_dialogsSeen = 0;
-        QTimer::singleShot(0, this, [this, action] {
+        m_dialogHand = std::make_unique<QTimer>();
+        m_dialogHand->setSingleShot(true);
+        connect(m_dialogHand.get(), &QTimer::timeout, this, [this, action] {
             QWidget *dialog = QApplication::activeModalWidget();
             if (!dialog)
                 return;
@@ -98,6 +101,7 @@ protected:
             if (QApplication::activeModalWidget() == dialog)
                 QTest::keyClick(dialog, Qt::Key_Escape);
         });
+        m_dialogHand->start(0);
     }
     /// Does what ends the test, and returns what the result dialog says.
     QStringList ResultOf(const std::function<void()> &end)
@@ -108,6 +112,7 @@ protected:
                 said += dialog->findChild<QLabel *>(QLatin1StringView(label))->text();
         });
         end();
+        m_dialogHand->stop(); // where no dialog opened
         return said;
     }
     /// "speed rate name" of each stored test.
@@ -126,5 +131,6 @@ protected:
     std::optional<FakeAnswers> m_messages;
     std::unique_ptr<QWidget> m_owner;
     QPointer<TestWindow> m_window;
+    std::unique_ptr<QTimer> m_dialogHand;
     int m_dialogsSeen = 0;
 };

@@ -55,7 +55,7 @@ void SayWhatIsMissing()
         return;
     Public_Function::ShowMessage(
         QObject::tr("The pictures are missing or damaged; windows are shown in plain colours:\n%1")
-            .arg(Shared().InstallDir + "Bitmap\\1024_CH.DLL"_L1),
+            .arg(Public_Function::NativePath(Shared().InstallDir + "Bitmap\\1024_CH.DLL"_L1)),
         u"Quorvex"_s, MessageIcon::Information, MessageButtons::Ok);
 }
 

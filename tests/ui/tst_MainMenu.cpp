@@ -136,6 +136,19 @@ private Q_SLOTS:
         QVERIFY(m_install->Entries(u"Users"_s).isEmpty());
     }
 
+    void WhereNothingCanBeWrittenOnePractisesAllTheSame()
+    {
+        Show(QString());
+        m_install->Write(u"Users"_s, "no folder, and none can be made");
+        for (int entry = 1; entry <= 2; ++entry) {
+            if (entry == 1)
+                TypeInLogin(u"Ann"_s);
+            Press(u"XBtnEnglish"_s);
+            QCOMPARE(m_navigator->opened.size(), entry);
+            QCOMPARE(m_answers.texts.size(), 1); // said once
+        }
+    }
+
     void HelpOpensAtTheWindowsPage()
     {
         m_install.emplace(u"Ann"_s);

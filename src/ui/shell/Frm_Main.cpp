@@ -213,11 +213,13 @@ void Frm_Main::ShowSystemMenu()
 void Frm_Main::UserLogin()
 {
     Public_Function::SaveSoundSetting();
-    DlgUr_UserLogin(this).exec();
+    const bool chosen = DlgUr_UserLogin(this).exec() == QDialog::Accepted;
+    if (chosen)
+        m_userHadFolder = Public_Function::PathExists(Public_Function::UserDir());
     Public_Function::LoadSoundSetting();
     Public_Function::LoadTestSetting();
     ShowUser();
-    if (!Shared().CurrentUserName.isEmpty())
+    if (chosen)
         SayOnceIfReadOnly();
 }
 
@@ -231,8 +233,10 @@ void Frm_Main::ShowUser()
 
 bool Frm_Main::EnsureUser()
 {
-    const auto isLoggedIn = [] {
-        return !Shared().CurrentUserName.isEmpty() && Public_Function::PathExists(Public_Function::UserDir());
+    // On a medium that cannot be written a user never gets a folder, and may practise all the same.
+    const auto isLoggedIn = [this] {
+        return !Shared().CurrentUserName.isEmpty() &&
+               (!m_userHadFolder || Public_Function::PathExists(Public_Function::UserDir()));
     };
     if (!isLoggedIn())
         UserLogin();

@@ -41,6 +41,7 @@ private:
 
     Navigator &m_navigator;
     QPoint m_backgroundOrigin;
+    bool m_userHadFolder = true; ///< at login; a folder that goes later is a deleted user's
     bool m_saidReadOnly = false;
 
     QLabel *Lab_User;

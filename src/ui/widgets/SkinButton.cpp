@@ -11,6 +11,14 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QSize PlainSize(100, 30);
+constexpr QSize PlainWindowButtonSize(44, 24);
+
+QSize PlainSizeFor(const QString &bitmap)
+{
+    const bool windowButton =
+        bitmap.endsWith("_CLOSE"_L1) || bitmap.endsWith("_MIN"_L1) || bitmap.endsWith("_HELP"_L1);
+    return windowButton ? PlainWindowButtonSize : PlainSize;
+}
 
 enum Frame { Normal = 0, Hovered = 1, Pressed = 2, Disabled = 3, Focused = 4 };
 
@@ -32,7 +40,7 @@ void SkinButton::SetButton(const QString &bitmap, const SkinLibrary &library, in
     m_bitmap = bitmap;
     m_frames = qMax(1, frames);
     const QSize strip = library.BitmapSize(bitmap);
-    m_frameSize = strip.isEmpty() ? PlainSize : QSize(strip.width() / m_frames, strip.height());
+    m_frameSize = strip.isEmpty() ? PlainSizeFor(bitmap) : QSize(strip.width() / m_frames, strip.height());
     m_focusColor = library.Color(u"focus"_s, QColor(255, 164, 84));
     m_innerFocusColor = library.Color(u"focus.inner"_s, QColor(40, 52, 76));
     resize(m_frameSize);
@@ -64,7 +72,8 @@ void SkinButton::paintEvent(QPaintEvent *)
         painter.setPen(isEnabled() ? QColor(60, 70, 90) : QColor(150, 155, 165));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
         painter.setFont(Public_Function::InterfaceFont(9));
-        painter.drawText(rect(), Qt::AlignCenter, accessibleName());
+        const QString name = painter.fontMetrics().elidedText(accessibleName(), Qt::ElideRight, width() - 6);
+        painter.drawText(rect(), Qt::AlignCenter, name);
     } else {
         painter.drawPixmap(0, 0, look);
     }

@@ -1,13 +1,11 @@
 #include "platform/DBusInputMethod.h"
 #include "support/FakeBus.h"
 #include "support/FakeServices.h"
+#include "support/TestInstall.h"
 
 #include <QDBusArgument>
 #include <QDBusMetaType>
 #include <QDBusVariant>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -57,52 +55,39 @@ class tst_InputMethod : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
+    void init()
     {
         qDBusRegisterMetaType<FcitxRow>();
         qDBusRegisterMetaType<QList<FcitxRow>>();
-    }
-
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
+        m_fcitx.reset();
+        m_ibus.reset();
+        m_install = std::make_unique<TestInstall>();
         qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
-        qputenv("XDG_CONFIG_HOME", m_folder->path().toUtf8());
+        qputenv("XDG_CONFIG_HOME", m_install->Native({}).toUtf8());
         qputenv("DISPLAY", ":7.0");
         for (const char *const name : {"IBUS_ADDRESS", "WAYLAND_DISPLAY", "QT_IM_MODULE"})
             qunsetenv(name);
     }
 
-    void cleanup()
-    {
-        m_fcitx.reset();
-        m_ibus.reset();
-    }
-
-    void names_data()
-    {
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("Pinyin") << u"libpinyin"_s << u"Intelligent Pinyin"_s << u"Intelligent Pinyin"_s;
-        QTest::newRow("in Chinese") << u"pinyin"_s << u"拼音"_s << u"拼音 (Pinyin)"_s;
-        QTest::newRow("no name") << u"libpinyin"_s << QString() << u"libPinyin"_s;
-        QTest::newRow("double Pinyin") << u"shuangpin"_s << u"Shuangpin"_s << u"Shuangpin (Pinyin)"_s;
-        QTest::newRow("only the name tells") << u"somebody"_s << u"某双拼"_s << u"某双拼 (Pinyin)"_s;
-        QTest::newRow("another") << u"wbx"_s << u"Wubi"_s << u"Wubi"_s;
-        QTest::newRow("layout of Fcitx") << u"keyboard-us"_s << u"English (US)"_s << QString();
-        QTest::newRow("layout of IBus") << u"xkb:us::eng"_s << u"English (US)"_s << QString();
-    }
-
     void names()
     {
-        QFETCH(const QString, id);
-        QFETCH(const QString, name);
-        StartFcitx(id, name);
-        QTEST(DBusInputMethod().AskName(untilAnswered), "expected");
-        m_fcitx.reset();
-        StartIBus(id, name);
-        QTEST(DBusInputMethod().AskName(untilAnswered), "expected");
+        const QList<std::array<QString, 3>> rows{
+            {u"libpinyin"_s, u"Intelligent Pinyin"_s, u"Intelligent Pinyin"_s},
+            {u"pinyin"_s, u"拼音"_s, u"拼音 (Pinyin)"_s},
+            {u"libpinyin"_s, QString(), u"libPinyin"_s},
+            {u"shuangpin"_s, u"Shuangpin"_s, u"Shuangpin (Pinyin)"_s},
+            {u"somebody"_s, u"某双拼"_s, u"某双拼 (Pinyin)"_s},
+            {u"wbx"_s, u"Wubi"_s, u"Wubi"_s},
+            {u"keyboard-us"_s, u"English (US)"_s, QString()},
+            {u"xkb:us::eng"_s, u"English (US)"_s, QString()}};
+        for (const auto &[id, name, expected] : rows) {
+            init();
+            StartFcitx(id, name);
+            QCOMPARE(DBusInputMethod().AskName(untilAnswered), expected);
+            m_fcitx.reset();
+            StartIBus(id, name);
+            QCOMPARE(DBusInputMethod().AskName(untilAnswered), expected);
+        }
     }
 
     void followsWhatRuns()
@@ -152,7 +137,6 @@ private:
     void StartFcitx(const QString &id, const QString &name)
     {
         m_fcitx = std::make_unique<FakeBus>(u"org.fcitx.Fcitx5"_s);
-        QVERIFY(m_fcitx->IsUp());
         m_fcitx->Answer(u"CurrentInputMethod"_s, id);
         m_fcitx->Answer(u"AvailableInputMethods"_s,
                         QVariant::fromValue(QList<FcitxRow>{{u"other"_s, u"Other"_s}, {id, name}}));
@@ -162,21 +146,13 @@ private:
     void StartIBus(const QString &id, const QString &name)
     {
         m_ibus = std::make_unique<FakeBus>(u"org.freedesktop.IBus"_s);
-        QVERIFY(m_ibus->IsUp());
         m_ibus->Answer(u"Get"_s, IBusEngine(id, name));
-        WriteIBusAddress(m_ibus->Address());
+        const QString display = QString::fromLatin1(QDBusConnection::localMachineId()) + u"-unix-7"_s;
+        m_install->Write(u"ibus/bus/"_s + display,
+                         "# a note\nIBUS_ADDRESS=" + m_ibus->Address() + "\nIBUS_DAEMON_PID=7\n");
     }
 
-    void WriteIBusAddress(const QByteArray &address)
-    {
-        const QString folder = m_folder->filePath(u"ibus/bus/"_s);
-        QVERIFY(QDir().mkpath(folder));
-        QFile file(folder + QString::fromLatin1(QDBusConnection::localMachineId()) + u"-unix-7"_s);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("# a note\nIBUS_ADDRESS=" + address + "\nIBUS_DAEMON_PID=7\n");
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<TestInstall> m_install;
     std::unique_ptr<FakeBus> m_fcitx;
     std::unique_ptr<FakeBus> m_ibus;
 };

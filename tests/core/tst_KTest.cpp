@@ -1,18 +1,15 @@
 #include "core/engine/KTest.h"
 #include "core/engine/TextUnits.h"
-#include "core/shell/Public_Define.h"
 #include "support/Damage.h"
-#include "support/FakeServices.h"
-#include "support/TestInstall.h"
 #include "support/TypingCase.h"
 
 #include <QDir>
-#include <QStringEncoder>
 #include <QTest>
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
+/// Both typing engines, and what they know about characters.
 class tst_KTest : public QObject
 {
     Q_OBJECT
@@ -27,12 +24,12 @@ private:
             Shared().TestFile[0] = Shared().InstallDir + u"Data\\Texts\\a.txt"_s;
             test->m_nMaxCols = columns;
         }
-        QStringList Lines() const
+        QString Lines() const
         {
             QStringList lines;
             for (int line = 1; line <= test->LineCount(); ++line)
                 lines += test->LoadTestLine(line);
-            return lines;
+            return lines.join(u'|');
         }
 
         FakeServices services;
@@ -41,7 +38,7 @@ private:
     };
 
 private Q_SLOTS:
-    void RecordedTests_data()
+    void RecordedSessions_data()
     {
         QTest::addColumn<QString>("path");
         const QDir folder(QStringLiteral(QUORVEX_TEST_DATA "/typing"));
@@ -51,180 +48,78 @@ private Q_SLOTS:
             QTest::newRow(qPrintable(name)) << folder.filePath(name);
     }
 
-    void RecordedTests()
+    void RecordedSessions()
     {
         QFETCH(QString, path);
         TypingCase recorded(path);
         QCOMPARE(recorded.Play(), recorded.Expected());
     }
 
-    void ATextIsCutBetweenUnits_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("columns");
-        QTest::addColumn<QStringList>("lines");
-        const QString hello = u"Hello world"_s;
-        QTest::newRow("fits") << hello << 12 << QStringList{hello};
-        QTest::newRow("just too wide") << hello << 11 << QStringList{u"Hello "_s, u"world"_s};
-        QTest::newRow("space alone") << hello << 6 << QStringList{u"Hello"_s, u" "_s, u"world"_s};
-        QTest::newRow("wide word") << hello << 5 << QStringList{u""_s, u"Hello"_s, u" "_s, u"world"_s};
-        QTest::newRow("double columns") << u"一二三四五1２"_s << 10 << QStringList{u"一二三四"_s, u"五1２"_s};
-        QTest::newRow("digits") << u"1234567"_s << 4 << QStringList{u"123"_s, u"456"_s, u"7"_s};
-        QTest::newRow("ends and empty lines")
-            << u"\r\n\na\rb\r\n\r\nc\n\n"_s << 9 << QStringList{u"a"_s, u"b"_s, u"c"_s};
-        QTest::newRow("outside the basic plane") << u"𠀀𠀁𠀂"_s << 5 << QStringList{u"𠀀𠀁"_s, u"𠀂"_s};
-        QTest::newRow("no width") << u"ab1"_s << 0 << QStringList{u""_s, u"ab"_s, u"1"_s};
-        QTest::newRow("nothing") << u"\n"_s << 9 << QStringList();
-        QTest::newRow("more columns than count")
-            << QString(101, u'1') << 300 << QStringList{QString(100, u'1'), u"1"_s};
-        QTest::newRow("a million letters and one") << QString(1'000'000, u'a') + u"\nb"_s << 80
-                                                   << QStringList{u""_s, QString(1'000'000, u'a'), u"b"_s};
-    }
-
     void ATextIsCutBetweenUnits()
     {
-        QFETCH(QString, text);
-        QFETCH(int, columns);
-        Lesson lesson(text.toUtf8(), columns);
-        QVERIFY(lesson.test->LoadLesson());
-        QTEST(lesson.Lines(), "lines");
-    }
-
-    void AnyEncodingLoads_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        const QString text = u"学而时习之"_s;
-        QTest::newRow("UTF-8") << text.toUtf8();
-        QTest::newRow("UTF-8 with a mark") << "\xEF\xBB\xBF" + text.toUtf8();
-        QTest::newRow("UTF-16") << QByteArray(
-            QStringEncoder(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom)(text));
-        QTest::newRow("GB18030") << QByteArray::fromHex("d1a7b6f8cab1cfb0d6ae");
-    }
-
-    void AnyEncodingLoads()
-    {
-        QFETCH(QByteArray, bytes);
-        Lesson lesson(bytes);
-        QVERIFY(lesson.test->LoadLesson());
-        QCOMPARE(lesson.Lines(), QStringList{u"学而时习之"_s});
-        QCOMPARE(lesson.test->m_sTip, u"Texts: a.txt"_s);
-    }
-
-    void WhatCannotBeLoadedChangesNothing_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::newRow("none chosen") << QString();
-        QTest::newRow("vanished") << u"Data\\Texts\\b.txt"_s;
-        QTest::newRow("a folder") << u"Data\\Texts"_s;
+        const QString million(1'000'000, u'a');
+        const QList<std::tuple<int, QString, QString>> texts{
+            {12, u"Hello world"_s, u"Hello world"_s},
+            {11, u"Hello world"_s, u"Hello |world"_s},
+            {6, u"Hello world"_s, u"Hello| |world"_s},
+            {5, u"Hello world"_s, u"|Hello| |world"_s},
+            {10, u"一二三四五1２"_s, u"一二三四|五1２"_s},
+            {4, u"abéＡc"_s, u"ab|é|Ａc"_s},
+            {9, u"\r\n\na\rb\r\n\r\nc\n\n"_s, u"a|b|c"_s},
+            {5, u"𠀀𠀁𠀂"_s, u"𠀀𠀁|𠀂"_s},
+            {0, u"ab1"_s, u"|ab|1"_s},
+            {300, QString(101, u'1'), QString(100, u'1') + u"|1"_s},
+            {80, million + u"\nb"_s, u'|' + million + u"|b"_s}};
+        for (const auto &[columns, text, lines] : texts) {
+            const Lesson lesson(text.toUtf8(), columns);
+            QVERIFY(lesson.test->LoadLesson());
+            QCOMPARE(lesson.Lines(), lines);
+        }
     }
 
     void WhatCannotBeLoadedChangesNothing()
     {
-        QFETCH(QString, path);
-        Lesson lesson("abc");
+        const Lesson lesson("\xd1\xa7\xb6\xf8");
         QVERIFY(lesson.test->LoadLesson());
         lesson.test->CheckString(u"a"_s);
-        Shared().TestFile[0] = path.isEmpty() ? path : Shared().InstallDir + path;
-        QVERIFY(!lesson.test->LoadLesson());
-        QCOMPARE(lesson.Lines(), QStringList{u"abc"_s});
-        QCOMPARE(lesson.test->m_nCurCol, 1);
-        QCOMPARE(lesson.test->m_sTip, u"Texts: a.txt"_s);
-        Shared().TestFile[0] = Shared().InstallDir + u"DATA\\\\texts\\A.TXT"_s;
+        const QString folder = Shared().InstallDir;
+        for (const QString &path : {QString(), folder + u"none.txt"_s, folder + u"Data\\Texts"_s}) {
+            Shared().TestFile[0] = path;
+            QVERIFY(!lesson.test->LoadLesson());
+            QCOMPARE(lesson.Lines(), u"学而"_s);
+            QCOMPARE(lesson.test->m_sTip, u"Texts: a.txt"_s);
+            QCOMPARE(lesson.test->GetProgress(), 50);
+        }
+        Shared().TestFile[0] = folder + u"DATA\\\\texts\\A.TXT"_s;
         QVERIFY(lesson.test->LoadLesson());
-        QCOMPARE(lesson.test->m_nCurCol, 0);
         QCOMPARE(lesson.test->GetProgress(), 0);
-    }
-
-    void SecondsAreRoundedToTheEvenOne_data()
-    {
-        QTest::addColumn<double>("seconds");
-        QTest::addColumn<float>("speed");
-        QTest::newRow("0.4 is taken as 1") << 0.4 << 180.0F;
-        QTest::newRow("0.5 is 0, taken as 1") << 0.5 << 180.0F;
-        QTest::newRow("2.5 is 2") << 2.5 << 90.0F;
-        QTest::newRow("3.5 is 4") << 3.5 << 45.0F;
-        QTest::newRow("over midnight") << 86400.0 << 0.0F;
-    }
-
-    void SecondsAreRoundedToTheEvenOne()
-    {
-        QFETCH(double, seconds);
-        Lesson lesson("abc");
-        QVERIFY(lesson.test->LoadLesson());
-        lesson.test->StartType();
-        for (const QString &unit : {u"a"_s, u"b"_s, u""_s, u"c"_s})
-            lesson.test->CheckString(unit);
-        lesson.services.clock.Move(seconds);
-        lesson.test->StopType();
-        QTEST(lesson.test->m_fLastAveSpeed, "speed");
-        lesson.test->StartType();
-        QCOMPARE(lesson.test->m_fLastAveSpeed, 0.0F);
-    }
-
-    void LinesAreAskedForByNumber()
-    {
-        Lesson lesson("ab\ncd\n");
-        QVERIFY(lesson.test->LoadLesson());
-        QVERIFY(!lesson.test->IsLineDone());
-        lesson.test->CheckString(u"a"_s);
-        lesson.test->CheckString(u"𠀀"_s);
-        QVERIFY(lesson.test->IsLineDone());
-        QVERIFY(lesson.test->SetNextLine());
-        QVERIFY(!lesson.test->SetNextLine());
-        int line = -1;
-        QCOMPARE(lesson.test->LoadTestLine(line), u"cd"_s);
-        QCOMPARE(line, 2);
-        line = 3;
-        QCOMPARE(lesson.test->LoadTestLine(line) + lesson.test->GetInputLine(line), QString());
-        line = 1;
-        QCOMPARE(lesson.test->GetInputLine(line), u"a𠀀"_s);
-        QString typed;
-        QCOMPARE(lesson.test->IsRightKey(typed, 1, line), KeyMark::KeyWrong);
-        QCOMPARE(typed, u"𠀀"_s);
-        line = -1;
-        QCOMPARE(lesson.test->IsRightKey(typed, 0, line), KeyMark::KeyUntyped);
-        QCOMPARE(typed, QString());
-        QCOMPARE(line, 2);
-    }
-
-    void MarksGrowWithTheText()
-    {
-        Lesson lesson(QByteArray(3000, 'w') + "\n" + QByteArray("x\n").repeated(3000));
-        QVERIFY(lesson.test->LoadLesson());
-        lesson.test->StartType();
-        while (lesson.test->IsLineDone())
-            lesson.test->SetNextLine();
-        for (int i = 0; i < 3000; ++i)
-            lesson.test->CheckString(i < 2990 ? u"w"_s : u"-"_s);
-        while (lesson.test->SetNextLine())
-            lesson.test->CheckString(u"-"_s);
-        QCOMPARE(lesson.test->GetProgress(), 100);
-        const WrongCharacters wrong = lesson.test->GetWrong();
-        QCOMPARE(wrong.sWrong, QStringList({u"x"_s, u"w"_s}));
-        QCOMPARE(wrong.nWrong, std::vector<int>({3000, 10}));
     }
 
     void TypedLinesAreSavedWhole()
     {
-        Lesson lesson("ab\ncd\n");
+        const Lesson lesson("ab\ncd\n");
         QVERIFY(lesson.test->LoadLesson());
         lesson.test->CheckString(u"午"_s);
         lesson.test->SetNextLine();
         const QString path = Shared().InstallDir + u"typed.txt"_s;
         QVERIFY(lesson.test->SaveInput(path));
-        QCOMPARE(lesson.install.Read(u"typed.txt"_s), QByteArray("午\r\n\r\n"));
-        lesson.test->CheckString(u"c"_s);
+        lesson.test->CheckString(u"𠀀"_s);
         const WriteFault full{WriteFault::Step::Write, WriteFault::Kind::Fail, 3};
         QVERIFY(!WithFault(full, [&] { return lesson.test->SaveInput(path); }));
         QVERIFY(!lesson.test->SaveInput(Shared().InstallDir + u"none\\typed.txt"_s));
-        QCOMPARE(lesson.install.Read(u"typed.txt"_s), QByteArray("午\r\n\r\n"));
-        QCOMPARE(lesson.install.Entries(QString()), QStringList({u"Data"_s, u"Users"_s, u"typed.txt"_s}));
+        QCOMPARE(lesson.install.Read(u"typed.txt"_s), "午\r\n\r\n"_ba);
+        QCOMPARE(lesson.install.Entries(QString()).join(u' '), u"Data Users typed.txt"_s);
+        int line = -1; // the current one
+        QString typed;
+        QCOMPARE(lesson.test->IsRightKey(typed, 0, line), KeyMark::KeyWrong);
+        QCOMPARE(typed + lesson.test->LoadTestLine(line) + QString::number(line), u"𠀀cd2"_s);
     }
 
     void ReleaseStoresTheSettings()
     {
         Lesson lesson("a");
-        lesson.install.Write(u"Users/Anna/Setting.ini"_s, "[Exam]\r\nOutComp=3\r\n");
+        const QString file = u"Users/Anna/Setting.ini"_s;
+        lesson.install.Write(file, "[Exam]\r\nOutComp=3\r\n");
         Shared().TestDisplayMode = {1, 4, 2};
         Shared().ShowOrg = false;
         Shared().Frequency = 5;
@@ -232,45 +127,27 @@ private Q_SLOTS:
         Shared().LimitTime = 15;
         Shared().NewLine = 2;
         lesson.test.reset();
-        QCOMPARE(
-            lesson.install.Read(u"Users/Anna/Setting.ini"_s),
-            QByteArray("[Exam]\r\nOutComp=3\r\nInComp=1\r\nAuditionComp=2\r\nShowOrg=0\r\nFrequency=5\r\n"
-                       "OverType=1\r\nLimitTime=15\r\n[Main]\r\nNewLine=2\r\n"));
+        const QByteArray exam = "[Exam]\r\nOutComp=3\r\nInComp=1\r\nAuditionComp=2\r\nShowOrg=0\r\n"
+                                "Frequency=5\r\nOverType=1\r\nLimitTime=15\r\n";
+        QCOMPARE(lesson.install.Read(file), exam + "[Main]\r\nNewLine=2\r\n");
+        Shared().NewLine = 1;
+        KFreeType().Clear();
+        QCOMPARE(lesson.install.Read(file), exam + "[Main]\r\nNewLine=1\r\n");
         Shared().CurrentUserName.clear();
         const QStringList before = lesson.install.Tree();
         KTest().Clear();
+        KFreeType().Clear();
         QCOMPARE(lesson.install.Tree(), before);
     }
 
-    void QuotientsAreRoundedUp()
-    {
-        struct Quotient
-        {
-            float a, b;
-            qint16 quotient;
-        };
-        for (const auto &[a, b, quotient] : {Quotient{20, 10, 2},
-                                             {21, 10, 3},
-                                             {20.4F, 10, 3},
-                                             {19.6F, 10, 2},
-                                             {5, 0.5F, 0},
-                                             {1.0e9F, 1, 32767}})
-            QCOMPARE(Public_Function::CeilDiv(a, b), quotient);
-    }
-
-    void Characters()
+    void QuotientsAndWidths()
     {
         using namespace Public_Function;
-        QCOMPARE(GetTextWidth(u"aé午𠀀"_s), qint16(7));
-        QCOMPARE(GetTextWidth(QString(20'000, u'午')), qint16(32767));
-        QVERIFY(IsLetter(u"z1"_s) && IsLetter(u"A"_s));
-        for (const QString &other : {u""_s, u"1a"_s, u"é"_s, u"["_s, u"Ａ"_s})
-            QVERIFY(!IsLetter(other));
-        for (const auto &[before, after] : {std::pair(u"　"_s, u" "_s), std::pair(u"　　"_s, u"　　"_s)}) {
-            QString text = before;
-            ConvertFullSpace(text);
-            QCOMPARE(text, after);
-        }
+        QCOMPARE(CeilDiv(20.4F, 10), 3);
+        QCOMPARE(CeilDiv(19.6F, 10), 2);
+        QCOMPARE(CeilDiv(5, 0.5F), 0);
+        QCOMPARE(GetTextWidth(u"aé午𠀀"_s), 7);
+        QCOMPARE(GetTextWidth(QString(20'000, u'午')), 32767);
     }
 };
 

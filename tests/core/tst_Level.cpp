@@ -9,56 +9,26 @@ class tst_Level : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Levels_data()
-    {
-        QTest::addColumn<float>("rate");
-        QTest::addColumn<float>("speed");
-        QTest::addColumn<QList<int>>("levels"); // without an input method, with Pinyin, with another
-        const QList<int> expert{12, 13, 13};
-        const QList<int> quick{11, 11, 11};
-        const QList<int> master{3, 6, 10};
-        const QList<int> junior{2, 5, 9};
-        const QList<int> beginner{1, 4, 8};
-        const auto row = [](float rate, float speed, const QList<int> &levels) {
-            QTest::addRow("rate %g, speed %g", static_cast<double>(rate), static_cast<double>(speed))
-                << rate << speed << levels;
-        };
-        row(100, 80, expert);
-        row(80, 79.9F, quick);
-        row(80, 50, quick);
-        row(80, 49.8F, master);
-        row(80, 35, master);
-        row(80, 20, junior);
-        row(80, 10, beginner);
-        row(80, 9.8F, {0, 0, 7});
-        row(80, 0, {0, 0, 7});
-        row(79.9F, 50, expert);
-        row(50, 35, quick);
-        row(50, 34.8F, master);
-        row(50, 20, master);
-        row(50, 10, junior);
-        row(50, 9.8F, beginner);
-        row(49, 300, expert);
-        row(49, 299, master);
-        row(20, 200, master);
-        row(20, 100, junior);
-        row(20, 99, beginner);
-        row(19, 200, junior);
-        row(10, 199, beginner);
-        row(10, 0, beginner);
-        row(9.9F, 1, master);
-        row(9, 0, {1, 4, 7});
-        row(0, 90, {1, 4, 7});
-    }
-
     void Levels()
     {
-        QFETCH(float, rate);
-        QFETCH(float, speed);
-        QList<int> levels;
-        for (const InputKind kind : {InputKind::None, InputKind::Pinyin, InputKind::Other})
-            levels += Public_Function::GetLevel(kind, speed, rate);
-        QTEST(levels, "levels");
+        // Without an input method, with Pinyin, with another; by the letters of the rows below.
+        const QHash<char, QList<int>> levels{{'E', {12, 13, 13}}, {'Q', {11, 11, 11}}, {'M', {3, 6, 10}},
+                                             {'J', {2, 5, 9}},    {'B', {1, 4, 8}},    {'F', {0, 0, 7}},
+                                             {'-', {1, 4, 7}}};
+        const QList<std::tuple<float, QList<float>, const char *>> rows{
+            {100, {80}, "E"},       {80, {79.9F, 50, 49.8F, 35, 20, 10, 9.8F, 0}, "QQMMJBFF"},
+            {79.9F, {50}, "E"},     {50, {35, 34.8F, 20, 10, 9.8F}, "QMMJB"},
+            {49, {300, 299}, "EM"}, {20, {200, 100, 99}, "MJB"},
+            {19, {200}, "J"},       {10, {199, 0}, "BB"},
+            {9.9F, {1, 0}, "M-"},   {0, {90}, "-"}};
+        for (const auto &[rate, speeds, expected] : rows) {
+            for (qsizetype i = 0; i < speeds.size(); ++i) {
+                QList<int> found;
+                for (const InputKind kind : {InputKind::None, InputKind::Pinyin, InputKind::Other})
+                    found += Public_Function::GetLevel(kind, speeds[i], rate);
+                QVERIFY2(found == levels[expected[i]], qPrintable(u"%1, %2"_s.arg(rate).arg(speeds[i])));
+            }
+        }
     }
 
     void Names()

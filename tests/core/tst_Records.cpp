@@ -1,5 +1,6 @@
 #include "core/records/ExchangeOrder.h"
 #include "core/records/IUserRecord.h"
+#include "core/records/TopList.h"
 #include "platform/Files.h"
 #include "support/Damage.h"
 #include "support/FakeServices.h"
@@ -286,13 +287,22 @@ private Q_SLOTS:
         QCOMPARE(m_install->Entries(u"Users/Anna"_s).size(), 2);
     }
 
-    void noSuchGroup()
+    void allRecordsOfAllUsersAreRanked()
     {
-        IUserRecord store = Opened();
-        for (const int group : {-1, 4}) {
-            store.AddTrainingRecord(30, 90, QString(), group);
-            QVERIFY(!store.GetTrainingRecord(group, 0) && !store.SaveTrainingRecordFile(group));
-        }
+        const auto day = [](int number, float speed, float rate) {
+            return TrainingRecord{QDate(2024, 2, number), speed, rate, u"Screen Text"_s, 3};
+        };
+        QVERIFY(CollectTopList().empty());
+        m_install->Write(u"user.ini"_s, "Bob;\r\n\r\n安娜;\r\nNobody;\r\n");
+        m_install->Write(u"Users/Bob/RecordEX.Dat"_s,
+                         Encode({day(9, 40, 90), day(2, 52, 71), day(1, 40, 95.5F)}));
+        m_install->Write(u"Users/安娜/RecordEX.Dat"_s, Encode({day(3, 40, 80), day(4, 52.2F, 100)}));
+        m_install->Write(u"Users/Ghost/RecordEX.Dat"_s, Encode({day(3, 90, 80)}));
+        QStringList rows;
+        for (const TopListEntry &entry : CollectTopList())
+            rows += entry.userName + u' ' + entry.RecordText() + u' ' + QString::number(entry.date.day());
+        QCOMPARE(rows.join(u", "), u"安娜 52.2wpm 100% 4, Bob 52wpm 71% 2, Bob 40wpm 95.5% 1, "
+                                   "Bob 40wpm 90% 9, 安娜 40wpm 80% 3"_s);
     }
 
 private:

@@ -1,209 +1,153 @@
 #pragma once
 
+#include "core/engine/KFreeType.h"
 #include "core/engine/KTest.h"
-#include "core/records/RecordFile.h"
+#include "core/records/IUserRecord.h"
 #include "core/shell/Public_Define.h"
 #include "support/FakeServices.h"
 #include "support/TestInstall.h"
 
 #include <QFile>
+#include <QRegularExpression>
+#include <QTextStream>
 #include <algorithm>
+#include <functional>
+#include <map>
 
-/// A recorded speed test (see tests/core/data/typing/README.md) that is typed again.
+/// A recorded typing session (see tests/core/data/typing/README.md) that is typed again.
 class TypingCase
 {
 public:
     explicit TypingCase(const QString &path)
-        : m_install(QStringLiteral("Anna"))
     {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly))
             qFatal("cannot read %s", qPrintable(path));
-        QStringList *part = &m_setup;
-        const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
-        for (const QString &line : lines) {
-            if (line == u"== lesson")
-                part = &m_lesson;
-            else if (line == u"== typing")
-                part = &m_steps;
-            else if (line == u"== result")
-                part = &m_expected;
-            else
-                *part += line;
-        }
-        m_expected.removeAll(QString()); // the end of the file
+        m_parts = QString::fromUtf8(file.readAll()).split(QRegularExpression(QStringLiteral("== \\w+\n")));
+        m_records.SetCurrentUser(QStringLiteral("Anna"));
     }
 
-    QStringList Expected() const { return m_expected; }
+    QStringList Expected() const { return Lines(m_parts.at(3)); }
 
     QStringList Play()
     {
-        KTest test;
-        for (const QString &line : m_setup)
-            SetUp(test, line);
-        for (const auto &[name, records] : {std::pair(English, m_english), std::pair(Chinese, m_chinese)}) {
-            if (!records.empty())
-                m_install.Write(name, RecordFile::Encode(records));
-        }
-        m_install.Write(QStringLiteral("Data/case.txt"), m_lesson.join(QStringLiteral("\r\n")).toUtf8());
-        Shared().TestFile[0] = Shared().InstallDir + QStringLiteral("Data\\case.txt");
-        if (!test.LoadLesson())
+        for (const QString &line : Lines(m_parts.at(0)))
+            Do(line);
+        Shared().TestFile[0] = Shared().InstallDir + QStringLiteral("case.txt");
+        m_install.Write(QStringLiteral("case.txt"), m_parts.at(1).toUtf8());
+        if (!m_test.LoadLesson())
             return {QStringLiteral("not loaded")};
-        for (const QString &line : m_steps) {
-            if (!line.isEmpty())
-                Step(test, line);
+        const double begin = m_services.clock.Now();
+        for (const QString &line : Lines(m_parts.at(2))) {
+            m_time = line.section(u' ', 0, 0);
+            m_services.clock.Move(begin + m_time.toDouble() - m_services.clock.Now());
+            Do(line.section(u' ', 1));
         }
-        AddResult(test);
-        AddRecords();
-        return m_result;
+        AddResult();
+        return Lines(m_result);
     }
 
 private:
-    static void TypeAll(KTest &test, const QString &text)
+    static QStringList Lines(const QString &text) { return text.split(u'\n', Qt::SkipEmptyParts); }
+
+    void Do(const QString &step)
     {
-        for (const char32_t character : text.toStdU32String())
-            test.CheckString(QString::fromUcs4(&character, 1));
+        const QString value = step.section(u' ', 1);
+        const std::map<std::string, std::function<void()>> actions{
+            {"columns", [&] { m_test.m_nMaxCols = value.toInt(); }},
+            {"free", [&] { m_session = &m_free; }},
+            {"keys", [&] { m_session->m_bEnglish = true; }},
+            {"stored", [&] { StoreMistake(value.section(u'=', 0, 0), value.section(u'=', 1).toShort()); }},
+            {"start", [&] { m_session->StartType(); }},
+            {"pause", [&] { m_session->PauseType(); }},
+            {"sample", [&] { m_session->CalTypeSpeed(); }},
+            {"stop", [&] { m_session->StopType(); }},
+            {"next", [&] { m_session->SetNextLine(); }},
+            {"type", [&] { Type(value.toStdU32String()); }},
+            {"unit", [&] { m_session->CheckString(value); }},
+            {"back", [&] { TakeBack(value.toInt()); }},
+            {"show", [&] { AddFigures(); }},
+            {"save", [&] { m_session->SaveData(value); }}};
+        actions.at(step.section(u' ', 0, 0).toStdString())();
     }
 
-    void SetUp(KTest &test, const QString &line)
+    void StoreMistake(const QString &character, qint16 count)
     {
-        const QString value = line.section(u' ', 1);
-        if (line.startsWith(u"columns"))
-            test.m_nMaxCols = value.toInt();
-        else if (line == u"keys")
-            test.m_bEnglish = true;
-        else if (line.startsWith(u"stored"))
-            (value[0] < QChar(128) ? m_english : m_chinese)
-                .push_back({value.section(u'=', 0, 0), value.section(u'=', 1).toShort()});
+        bool chinese = true;
+        m_records.AddMistakeRecord(character, count, chinese);
+        m_records.SaveMistakeRecordFile(chinese ? 1 : 0);
     }
 
-    void Step(KTest &test, const QString &line)
+    void Type(const std::u32string &text)
     {
-        const QString time = line.section(u' ', 0, 0);
-        const QString action = line.section(u' ', 1, 1);
-        const QString argument = line.section(u' ', 2);
-        m_services.clock.Move(time.toDouble() - m_seconds);
-        m_seconds = time.toDouble();
-        if (action == u"start")
-            test.StartType();
-        else if (action == u"pause")
-            test.PauseType();
-        else if (action == u"sample")
-            test.CalTypeSpeed();
-        else if (action == u"stop")
-            test.StopType();
-        else if (action == u"next")
-            test.SetNextLine();
-        else if (action == u"type")
-            TypeAll(test, argument);
-        else if (action == u"unit")
-            test.CheckString(argument);
-        else if (action == u"back")
-            for (int i = argument.toInt(); i > 0; --i)
-                test.BackSpace();
-        else if (action == u"climb")
-            Climb(test, argument.toInt());
-        else if (action == u"show")
-            AddFigures(test, time);
-        else if (action == u"save")
-            test.SaveData(argument);
-        else
-            qFatal("no such step: %s", qPrintable(line));
+        for (const char32_t character : text)
+            m_session->CheckString(QString::fromUcs4(&character, 1));
     }
 
-    void Climb(KTest &test, int halfMinutes)
+    void TakeBack(int units)
     {
-        for (int i = 1; i <= halfMinutes; ++i) {
-            TypeAll(test, QString(i, u'x'));
-            m_services.clock.Move(30);
-            m_seconds += 30;
-            test.CalTypeSpeed();
+        for (; units > 0; --units)
+            m_session->BackSpace();
+    }
+
+    void AddFigures()
+    {
+        m_out << "at " << m_time << ": line " << m_session->CurrentLine() << " column "
+              << m_session->m_nCurCol << ", speed " << m_session->GetAveSpeed() << ", rate "
+              << m_test.GetRightRate() << ", progress " << m_test.GetProgress() << '\n';
+    }
+
+    void AddResult()
+    {
+        for (int line = 1; line <= std::max(m_test.LineCount(), m_session->CurrentLine()); ++line)
+            m_out << line << " |" << m_test.LoadTestLine(line) << '|' << m_session->GetInputLine(line) << '|'
+                  << Marks(line) << "|\n";
+        m_out << "speed " << m_session->m_fLastAveSpeed << " rate " << m_session->m_fLastRate
+              << " backspaces " << m_session->m_nBackSpace << "\nchart:";
+        const SpeedCurve curve = m_session->GetSpeed();
+        AddPairs(curve.sSpeedTime, curve.nSpeed);
+        m_out << "\nwrong:";
+        if (const WrongCharacters wrong = m_session->GetWrong(); wrong.any)
+            AddPairs(wrong.sWrong, wrong.nWrong);
+        m_out << "\nrecord:";
+        for (const TrainingRecord &record : RecordFile::DecodeTraining(Stored("RecordEX.Dat")))
+            m_out << ' ' << record.Speed << ' ' << record.Rate << ' ' << record.Text;
+        m_out << "\nmistakes:";
+        for (const char *const file : {"MistakeEN.Dat", "MistakeCN.Dat"}) {
+            for (const MistakeRecord &record : RecordFile::DecodeMistakes(Stored(file)))
+                m_out << ' ' << record.Char << '=' << record.Count;
         }
     }
 
-    void AddFigures(const KTest &test, const QString &time)
+    QString Marks(int line) const
     {
-        m_result += QStringLiteral("at %1: line %2 column %3, speed %4, rate %5, progress %6")
-                        .arg(time)
-                        .arg(test.CurrentLine())
-                        .arg(test.m_nCurCol)
-                        .arg(test.GetAveSpeed())
-                        .arg(test.GetRightRate())
-                        .arg(test.GetProgress());
-    }
-
-    void AddResult(const KTest &test)
-    {
-        for (int line = 1; line <= test.LineCount(); ++line)
-            m_result += LineText(test, line);
-        m_result += QStringLiteral("speed %1 rate %2 backspaces %3")
-                        .arg(static_cast<double>(test.m_fLastAveSpeed))
-                        .arg(static_cast<double>(test.m_fLastRate))
-                        .arg(test.m_nBackSpace);
-        const SpeedCurve curve = test.GetSpeed();
-        m_result += QStringLiteral("chart:") + Pairs(curve.sSpeedTime, curve.nSpeed);
-        const WrongCharacters wrong = test.GetWrong();
-        m_result += QStringLiteral("wrong:") + (wrong.any ? Pairs(wrong.sWrong, wrong.nWrong) : QString());
-    }
-
-    static QString LineText(const KTest &test, int line)
-    {
-        constexpr int longest = 60;
-        const auto length =
-            static_cast<int>(std::max(test.InputLine(line).size(), test.TestLine(line).size()));
-        QString typed;
         QString marks;
-        for (int position = 0; position < length; ++position) {
-            QString character;
-            marks += u".+x"[static_cast<int>(test.IsRightKey(character, position, line))];
-            typed += character;
-        }
-        while (marks.endsWith(u'.'))
-            marks.chop(1);
-        if (marks.size() > longest) {
-            typed = QStringLiteral("%1 typed").arg(typed.size());
-            marks = QStringLiteral("%1 marks").arg(marks.size());
-        }
-        return QStringLiteral("%1 |").arg(line) + test.LoadTestLine(line) + u'|' + typed + u'|' + marks +
-               u'|';
+        QString character;
+        const std::size_t length = std::max(m_test.InputLine(line).size(), m_test.TestLine(line).size());
+        for (int position = 0; position < static_cast<int>(length); ++position)
+            marks += u".+x"[static_cast<int>(m_test.IsRightKey(character, position, line))];
+        return marks.first(marks.lastIndexOf(QRegularExpression(QStringLiteral("[^.]"))) + 1);
     }
 
-    static QString Pairs(const QStringList &names, const std::vector<int> &values)
+    void AddPairs(const QStringList &names, const std::vector<int> &values)
     {
-        QString text;
         for (qsizetype i = 0; i < names.size(); ++i)
-            text += u' ' + names[i] + u'=' + QString::number(values[static_cast<std::size_t>(i)]);
-        return text;
+            m_out << ' ' << names[i] << '=' << values[static_cast<std::size_t>(i)];
     }
 
-    void AddRecords()
+    QByteArray Stored(const char *file) const
     {
-        QString training = QStringLiteral("record:");
-        for (const TrainingRecord &record :
-             RecordFile::DecodeTraining(m_install.Read(QStringLiteral("Users/Anna/RecordEX.Dat"))))
-            training += QStringLiteral(" %1 %2 %3")
-                            .arg(static_cast<double>(record.Speed))
-                            .arg(static_cast<double>(record.Rate))
-                            .arg(record.Text);
-        QString mistakes = QStringLiteral("mistakes:");
-        for (const QString &name : {English, Chinese}) {
-            for (const MistakeRecord &record : RecordFile::DecodeMistakes(m_install.Read(name)))
-                mistakes += u' ' + record.Char + u'=' + QString::number(record.Count);
-        }
-        m_result += {training, mistakes};
+        return m_install.Read(QStringLiteral("Users/Anna/") + QLatin1StringView(file));
     }
-
-    const QString English = QStringLiteral("Users/Anna/MistakeEN.Dat");
-    const QString Chinese = QStringLiteral("Users/Anna/MistakeCN.Dat");
 
     FakeServices m_services;
-    TestInstall m_install;
-    double m_seconds = 0;
-    std::vector<MistakeRecord> m_english;
-    std::vector<MistakeRecord> m_chinese;
-    QStringList m_setup;
-    QStringList m_lesson;
-    QStringList m_steps;
-    QStringList m_expected;
-    QStringList m_result;
+    TestInstall m_install{QStringLiteral("Anna")};
+    IUserRecord m_records;
+    KTest m_test;
+    KFreeType m_free;
+    TypingSession *m_session = &m_test;
+    QStringList m_parts; ///< set-up, lesson, typing, result
+    QString m_time;
+    QString m_result;
+    QTextStream m_out{&m_result};
 };

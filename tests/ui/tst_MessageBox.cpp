@@ -59,6 +59,29 @@ private Q_SLOTS:
         }
     }
 
+    void LiesOverTheWindowInFront()
+    {
+        QWidget menu;
+        QDialog drill(&menu);
+        const auto ownerOfMessage = [this] {
+            QWidget *owner = nullptr;
+            QTimer::singleShot(0, this, [&owner] {
+                owner = QApplication::activeModalWidget()->parentWidget();
+                QApplication::activeModalWidget()->close();
+            });
+            Public_Function::ShowMessage(u"Done."_s, u"Quorvex"_s, MessageIcon::None, MessageButtons::Ok);
+            return owner;
+        };
+        menu.show();
+        for (QWidget *active : {&menu, static_cast<QWidget *>(nullptr)}) {
+            for (const bool covered : {false, true}) {
+                drill.setVisible(covered);
+                QApplication::setActiveWindow(active);
+                QCOMPARE(ownerOfMessage(), covered ? static_cast<QWidget *>(&drill) : &menu);
+            }
+        }
+    }
+
     void SizeFollowsTheText()
     {
         const QString sentence =

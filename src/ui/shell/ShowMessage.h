@@ -10,7 +10,7 @@ namespace Public_Function {
 inline constexpr qint16 MessageYes = 6;
 inline constexpr qint16 MessageNo = 7;
 
-/// Shows a message over the active window and waits for the answer: 6 after OK, Yes or Enter, 7 after No,
+/// Shows a message over the window in front and waits for the answer: 6 after OK, Yes or Enter, 7 after No,
 /// Escape or the title bar's close button.
 qint16 ShowMessage(const QString &text, const QString &caption, MessageIcon icon, MessageButtons buttons);
 

@@ -21,7 +21,8 @@ private Q_SLOTS:
         for (const auto &[before, typed, after] :
              {Row{"", "Ann", "Ann;\r\n"}, Row{"Ann;\r\n", "Bob", "Ann;\r\nBob;\r\n"},
               Row{"Ann;\r\n", "aNN", "Ann;\r\n"}, Row{"", "A n n", "Ann;\r\n"}, Row{"", "a|b", "a|b;\r\n"},
-              Row{"junk\r\n\r\nAnn;\r\n", "Bob", "Ann;\r\nBob;\r\n"}, Row{"Ann;\r\n", "", "Ann;\r\n"}}) {
+              Row{"junk\r\n\r\nAnn;\r\n", "Bob", "Ann;\r\nBob;\r\n"}, Row{"Ann;\r\n", "", "Ann;\r\n"},
+              Row{"", QByteArray(200, 'x'), QByteArray(200, 'x') + ";\r\n"}}) {
             Open(before);
             QVERIFY(m_name->hasFocus());
             QTest::keyClicks(m_name, QString::fromLatin1(typed));

@@ -20,7 +20,7 @@ namespace {
 constexpr int Margin = 30;
 constexpr int BoxHeight = 28;
 constexpr int ListHeight = 176;
-constexpr int LongestName = 64;
+constexpr int LongestName = 255; // what a folder can be called; longer names in bytes are refused
 
 /// A name holds no spaces, so none get in, typed or pasted.
 class NameValidator final : public QValidator

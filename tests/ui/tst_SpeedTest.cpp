@@ -357,6 +357,36 @@ private Q_SLOTS:
         QCOMPARE(row->Mark(), 299);
     }
 
+    void ClosesUnderAQuestion()
+    {
+        WriteText(u"abc"_s);
+        m_install->Write(u"Data/Appendix/Sweden.txt"_s, "x");
+        Public_Function::SetMessageAnswerer([this](const Public_Function::Message &) {
+            m_window->close(); // as at the end of the session
+            return Public_Function::MessageNo;
+        });
+        Open<frmTest>();
+        Type(u"ab"_s);
+        InDialog([](QWidget *dialog) {
+            dialog->findChild<QRadioButton *>(u"optOverType1"_s)->click();
+            dialog->findChild<QLineEdit *>(u"txtMinutes"_s)->setText(u"25"_s);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        Click(u"BtnSetting"_s);
+        QCOMPARE(Records().size(), 1);
+        QCOMPARE(Shared().OverType, 0);
+
+        Open<frmFreeType>();
+        Type(u"a"_s);
+        InDialog([](QWidget *dialog) {
+            dialog->findChild<QRadioButton *>(u"OptBookFile"_s)->click();
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        Click(u"BtnSelectLesson"_s);
+        QCOMPARE(m_navigator->tests, QStringList());
+        QCOMPARE(m_navigator->menuShown, 2);
+    }
+
     void ATextThatIsMissingOrEmpty()
     {
         Open<frmTest>();

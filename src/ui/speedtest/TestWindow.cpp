@@ -463,7 +463,7 @@ void TestWindow::FinishTest()
     dialog.SelectChart(0);
     const QPointer<TestWindow> self(this);
     dialog.exec();
-    if (!self || !m_engine)
+    if (!self || IsClosed())
         return;
     m_engine->Clear();
     FocusTypingBox();
@@ -488,7 +488,7 @@ void TestWindow::OnSave()
     PauseTest();
     const QPointer<TestWindow> self(this);
     const QString path = Public_Function::ChooseTextFile(Public_Function::FilePurpose::Save, this);
-    if (!self || !m_engine)
+    if (!self || IsClosed())
         return;
     if (!path.isEmpty())
         m_engine->SaveInput(path);

@@ -74,6 +74,8 @@ protected:
     void PauseTest();
     /// A running test's line-break rule has changed.
     void ApplyNewLine();
+    /// Closed under an open dialog, a window outlives its engine: nothing of a test may be touched any more.
+    bool IsClosed() const { return !m_engine; }
     bool IsTestRunning() const { return m_nTestState > TestState::Ready; }
     TestPage &Page() { return m_page; }
     const TestPage &Page() const { return m_page; }

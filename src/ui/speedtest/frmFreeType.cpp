@@ -75,7 +75,7 @@ void frmFreeType::SelectLesson()
     DlgTestSelect dialog(this);
     const QPointer<frmFreeType> self(this);
     dialog.exec();
-    if (!self)
+    if (!self || IsClosed())
         return;
     FocusTypingBox();
     if (!dialog.Result())
@@ -97,7 +97,7 @@ void frmFreeType::ChangeSettings()
     dialog.SetKeySound(IsKeySoundOn());
     const QPointer<frmFreeType> self(this);
     dialog.exec();
-    if (!self)
+    if (!self || IsClosed())
         return;
     FocusTypingBox();
     if (!dialog.ReturnValue())

@@ -161,7 +161,7 @@ void frmTest::SelectLesson()
     DlgSelLsn dialog(CurrentFile(), this);
     const QPointer<frmTest> self(this);
     const int answer = dialog.exec();
-    if (!self)
+    if (!self || IsClosed())
         return;
     FocusTypingBox();
     if (answer != QDialog::Accepted)
@@ -184,7 +184,7 @@ void frmTest::ChangeSettings()
     dialog.SetKeySound(IsKeySoundOn());
     const QPointer<frmTest> self(this);
     dialog.exec();
-    if (!self)
+    if (!self || IsClosed())
         return;
     FocusTypingBox();
     if (!dialog.ReturnValue())
@@ -227,7 +227,7 @@ bool frmTest::TakeTimeLimit(const DlgTestSetting &dialog)
         const qint16 answer =
             Public_Function::ShowMessage(u"You changed the setting, would you like to retest?"_s,
                                          u"Quorvex"_s, MessageIcon::Question, MessageButtons::YesNo);
-        if (!self)
+        if (!self || IsClosed())
             return false;
         FocusTypingBox();
         if (answer != Public_Function::MessageYes)

@@ -31,7 +31,7 @@ private:
     frmTest(Navigator &navigator, QWidget *owner, std::unique_ptr<KTest> test);
 
     void LoadTest();
-    /// False when the test was loaded anew.
+    /// False when the test was loaded anew, or the window closed meanwhile.
     bool TakeTimeLimit(const DlgTestSetting &dialog);
 
     KTest &m_test;

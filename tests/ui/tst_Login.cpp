@@ -89,6 +89,11 @@ private Q_SLOTS:
             QCOMPARE(m_install->Read(u"user.ini"_s), gone ? "Bob;\r\n" : "Ann;\r\nBob;\r\n");
             QCOMPARE(m_install->Entries(u"Users"_s).isEmpty(), gone);
             QCOMPARE(Button(u"XBtnDelete"_s)->isEnabled(), !gone);
+            QCOMPARE(m_name->text(), QString());
+            if (!gone) {
+                ClickRow(0);
+                QCOMPARE(m_name->text(), u"Ann"_s);
+            }
         }
         QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
         QVERIFY(!m_dialog->isVisible());

@@ -89,13 +89,16 @@ DlgUr_UserLogin::DlgUr_UserLogin(QWidget *owner)
     FillUserList();
     TxtUserName->setFocus();
 
-    connect(LstUser, &QListWidget::itemSelectionChanged, this, [this] {
+    const auto takeSelected = [this] {
         const QString name = SelectedName();
         if (name.isEmpty())
             return;
         TxtUserName->setText(name);
         XBtnDelete->setEnabled(true);
-    });
+    };
+    connect(LstUser, &QListWidget::itemSelectionChanged, this, takeSelected);
+    // The entry may be selected already, and the box emptied or typed in since.
+    connect(LstUser, &QListWidget::itemClicked, this, takeSelected);
     connect(LstUser, &QListWidget::itemDoubleClicked, this, &DlgUr_UserLogin::EnterSelected);
     connect(XBtnEnter, &SkinButton::clicked, this, &DlgUr_UserLogin::EnterSelected);
     connect(XBtnDelete, &SkinButton::clicked, this, &DlgUr_UserLogin::DeleteSelected);

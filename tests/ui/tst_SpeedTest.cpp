@@ -400,6 +400,16 @@ private Q_SLOTS:
         QVERIFY(Text(u"lblMsg"_s).contains(u"empty"_s));
         m_window->close();
         QVERIFY(Records().isEmpty());
+        WriteText(u"abc"_s);
+        Open<frmTest>();
+        QVERIFY(QFile::remove(m_install->Native(u"Data/English/E_General/lunch.txt"_s)));
+        InDialog([](QWidget *dialog) {
+            dialog->findChild<QRadioButton *>(u"optComp2"_s)->click();
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        Click(u"BtnSetting"_s);
+        Type(u"a"_s); // the text that was loaded is still there
+        QCOMPARE(Row(u"rtfSubject0"_s), u"abc/r--/b"_s);
     }
 };
 

@@ -195,8 +195,7 @@ void frmTest::ChangeSettings()
     mode = dialog.DisplayMode().value_or(mode);
     if (Page().Mode() != Mode()) {
         BuildPage();
-        if (IsTestRunning())
-            DrawPage();
+        DrawPage(); // what is loaded stays where the text is not to be had any more
     }
     if (!TakeTimeLimit(dialog))
         return;

@@ -267,6 +267,25 @@ private Q_SLOTS:
         QCOMPARE(stored.Integer(u"Exam"_s, u"LimitTime"_s, -1), 25);
     }
 
+    void PausesUntilTheNextKey()
+    {
+        WriteText(u"ab\ncd"_s);
+        Shared().NewLine = 1;
+        Open<frmTest>();
+        Type(u"ab"_s);
+        Press(Qt::Key_Pause);
+        InDialog([](QWidget *dialog) {
+            dialog->findChild<QRadioButton *>(u"optNewLine0"_s)->click();
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        Click(u"BtnSetting"_s);
+        QVERIFY(!IsRunning());
+        QCOMPARE(Row(u"rtfSubject1"_s), u"cd/--/c"_s); // the line waits no longer
+        Type(u"c"_s);
+        QVERIFY(IsRunning());
+        QCOMPARE(Row(u"rtfInput1"_s), u"c/r"_s);
+    }
+
     void TypesFromPaper()
     {
         m_install->Write(u"Data/own.txt"_s, "abc\ndef");

@@ -311,12 +311,15 @@ void TestWindow::NextLine()
 {
     do {
         if (!m_engine->SetNextLine()) {
+            if (m_nTestState == TestState::Paused)
+                ResumeTest(); // a pause that is over does not count
             FinishTest();
             return;
         }
     } while (IsLineComplete()); // nothing can be typed on an empty line
+    m_nSavedState = TestState::Running;
     if (m_nTestState != TestState::Running)
-        SetState(TestState::Running);
+        SetState(m_nTestState == TestState::Paused ? TestState::Paused : TestState::Running);
     const int page = m_nPage;
     m_page.HidePosition();
     FollowEngine();
@@ -407,8 +410,6 @@ void TestWindow::ApplyNewLine()
         state = Shared().NewLine == 1 ? TestState::WaitEnter : TestState::WaitSpace;
         SetState(m_nTestState);
     } else {
-        if (m_nTestState == TestState::Paused)
-            ResumeTest();
         NextLine();
     }
 }

@@ -184,8 +184,11 @@ void KeyCapDrill::DrillKeyDown(QKeyEvent *event)
     m_composing = false;
     const std::u32string typed = TypedCharacters(*event);
     const bool accepted = AcceptKeyDown(*event, !typed.empty());
-    for (const char32_t character : typed)
-        TypeCharacter(character, accepted);
+    const QPointer<KeyCapDrill> self(this); // the question at a lesson's end may outlive the window
+    for (const char32_t character : typed) {
+        if (self)
+            TypeCharacter(character, accepted);
+    }
 }
 
 /// False when the key is swallowed. It may still have typed a character, which then counts without a key.
@@ -299,7 +302,10 @@ void KeyCapDrill::inputMethodEvent(QInputMethodEvent *event)
         return;
     }
     // Committed without a composition: a dead key or a compose sequence typed it.
+    const QPointer<KeyCapDrill> self(this);
     for (const char32_t character : commit.toStdU32String()) {
+        if (!self)
+            return;
         const bool accepted = m_session.HasGroups();
         if (accepted)
             BeginTyping();

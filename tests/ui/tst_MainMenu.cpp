@@ -38,11 +38,12 @@ private Q_SLOTS:
 
     void ControlsStandWhereTheyBelong()
     {
-        for (const QSize &screen : {QSize(1024, 768), QSize(1920, 1080), QSize(1367, 769)}) {
+        for (const auto &[screen, origin] : {std::pair(QSize(1024, 768), QPoint(54, 94)),
+                                             {QSize(1920, 1080), QPoint(502, 250)},
+                                             {QSize(1365, 769), QPoint(224, 94)},
+                                             {QSize(1367, 771), QPoint(226, 96)}}) {
             Show(u"Ann"_s, screen);
-            const QSize back = SkinLibrary().BitmapSize(u"MAIN_BACK"_s);
-            const QPoint origin((screen.width() - back.width()) / 2,
-                                (screen.height() - back.height()) / 2 + 10);
+            QCOMPARE(SkinLibrary().BitmapSize(u"MAIN_BACK"_s), QSize(916, 600));
             QCOMPARE(UserLabel()->geometry(), QRect(origin + QPoint(0, 160), QSize(528, 30)));
             int row = 0;
             for (const QString &name : Entries)

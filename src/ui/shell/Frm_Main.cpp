@@ -22,6 +22,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QToolButton>
+#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -106,8 +107,10 @@ void Frm_Main::LayoutMainMenu()
     QSize back = library.BitmapSize(u"MAIN_BACK"_s);
     if (back.isEmpty())
         back = PlainMenuSize;
+    // To whole pixels, halves to the even one.
+    const auto half = [](int pixels) { return static_cast<int>(std::nearbyint(pixels / 2.0)); };
     m_backgroundOrigin =
-        QPoint((screenSize.width() - back.width()) / 2, (screenSize.height() - back.height()) / 2 + 10);
+        QPoint(half(screenSize.width() - back.width()), half(screenSize.height() - back.height()) + 10);
 
     Lab_User->setGeometry(m_backgroundOrigin.x(), m_backgroundOrigin.y() + 160, 528, 30);
     Lab_User->setFont(Public_Function::InterfaceFont(12, true));

@@ -61,24 +61,24 @@ private Q_SLOTS:
     void PassesOverKeysThatTypeNothing()
     {
         Open();
-        const auto press = [this] {
-            for (const auto key :
-                 {Qt::Key_Shift, Qt::Key_Alt, Qt::Key_CapsLock, Qt::Key_NumLock, Qt::Key_F5, Qt::Key_VolumeUp,
-                  Qt::Key_Insert, Qt::Key_Delete, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End,
-                  Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Control}) {
-                Press(key);
-                QVERIFY2(m_drill->hasFocus(), qPrintable(QKeySequence(key).toString()));
-            }
-            Press(Qt::Key_A, Qt::ControlModifier);
-            Press(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
-        };
-        press();
-        // Tab is struck by mistake like any other key, but starts nothing and misses nothing.
-        Press(Qt::Key_Tab);
-        QVERIFY(!IsRunning() && m_drill->hasFocus());
+        for (const auto key :
+             {Qt::Key_Insert, Qt::Key_Delete, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End,
+              Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Control, Qt::Key_Tab}) {
+            Press(key);
+            QVERIFY2(!IsRunning() && m_drill->hasFocus(), qPrintable(QKeySequence(key).toString()));
+        }
+        Press(Qt::Key_A, Qt::ControlModifier);
+        QVERIFY(!IsRunning());
+        // Others begin the practice, yet count as no character.
+        for (const auto key :
+             {Qt::Key_Shift, Qt::Key_Alt, Qt::Key_CapsLock, Qt::Key_NumLock, Qt::Key_F5, Qt::Key_VolumeUp}) {
+            Press(key);
+            QVERIFY2(IsRunning() && m_drill->hasFocus(), qPrintable(QKeySequence(key).toString()));
+        }
+        Press(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
         Type(u"a"_s);
-        press();
         m_services->clock.Move(1);
+        // Tab was struck by mistake like any other key, but misses nothing.
         QCOMPARE(Status().at(1), u"120KPM"_s);
         QCOMPARE(m_services->sound.TakePlayed(), QStringList({u"Error.wav"_s, u"Type.WAV"_s}));
         Leave();

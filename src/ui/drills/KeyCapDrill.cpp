@@ -205,10 +205,8 @@ bool KeyCapDrill::AcceptKeyDown(const QKeyEvent &event, bool typesCharacter)
         ShowHint(tr("Input by the current key suggested"));
         return true;
     }
-    // Shift, Caps Lock, F5 and their like begin no practice: only a key that types something does, or Pause,
-    // with which one goes on after a break.
-    if (Watch().IsRunning() || typesCharacter || pause)
-        BeginTyping();
+    // Any key begins the practice, Shift as well: who types a capital first has begun with it.
+    BeginTyping();
     if (m_keys && IsShownOnKeys(event))
         m_keys->KeyDown(KeyStrokeOf(event));
     return true;

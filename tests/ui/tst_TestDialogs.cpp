@@ -1,22 +1,62 @@
+#include "core/engine/TypingSession.h"
 #include "support/Fakes.h"
 #include "support/SkinnedInstall.h"
 #include "ui/shell/ChooseFile.h"
 #include "ui/speedtest/DlgSelLsn.h"
+#include "ui/speedtest/DlgTestResult.h"
 #include "ui/speedtest/DlgTestSelect.h"
 #include "ui/speedtest/DlgTestSetting.h"
 #include "ui/speedtest/PrintText.h"
+#include "ui/widgets/Chart.h"
+#include "ui/widgets/ChartScale.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPrinter>
+#include <QRegularExpression>
 #include <QTest>
+#include <QToolTip>
 
 using namespace Qt::Literals::StringLiterals;
 using Public_Function::PrintOutcome;
+
+/// A session with the mistyped characters that a case needs.
+struct Session final : TypingSession
+{
+    void SaveData(const QString &) override {}
+    void CheckString(const QString &strInput) override { AddUnit(strInput.toStdU32String()); }
+    bool SetNextLine() override { return false; }
+    void BackSpace() override {}
+    WrongCharacters GetWrong() const override { return wrong; }
+    int FinalUnits() const override { return m_nTyped; }
+
+    WrongCharacters wrong;
+};
+
+/// Paints a chart; heights of its bars, or of its line, from left to right in pixels.
+static QList<int> PaintedHeights(ChartData::Kind kind, const QList<double> &values, double maximum)
+{
+    Chart chart(u"chart"_s, u"Chart"_s, nullptr);
+    chart.resize(500, 260);
+    const QColor barColor(200, 10, 20);
+    chart.SetData({kind, {}, {}, {}, {}, {}, values, maximum, true, barColor});
+    const QImage image = chart.grab().toImage();
+    QList<int> heights;
+    for (int x = 0, last = 0; x < image.width(); ++x) {
+        int height = 0;
+        for (int y = 0; y < image.height(); ++y)
+            height += image.pixelColor(x, y) == barColor;
+        if (height > 0 && last == 0)
+            heights += height;
+        else if (height > 0)
+            heights.last() = qMax(heights.last(), height);
+        last = height;
+    }
+    return heights;
+}
 
 class TestTestDialogs : public QObject
 {
@@ -27,65 +67,49 @@ private Q_SLOTS:
     {
         m_install.emplace();
         m_messages.emplace();
-        m_printed.clear();
-        m_outcome = PrintOutcome::Printed;
         Public_Function::SetTextPrinter([this](const QString &text, const QString &title) {
-            m_printed += title + u'|' + text;
+            m_messages->texts += title + u'|' + text;
             return m_outcome;
         });
-        Public_Function::SetFileAnswerer([this](Public_Function::FilePurpose) { return m_file; });
+        Public_Function::SetFileAnswerer(
+            [this](Public_Function::FilePurpose) { return std::exchange(m_file, {}); });
         for (const char *file : {"English/E_General/lunch.txt", "English/E_General/10.txt",
                                  "English/E_General/2.TXT", "Chinese/E_General/a.txt",
                                  "Chinese/Professional/Law/one.txt", "Chinese/Professional/Law/two.txt",
                                  "Chinese/Professional/Empty/none.doc", "Appendix/Science.txt"})
             m_install->Write(u"Data/"_s + QLatin1StringView(file), "text of \xE6\x96\x87\r\n");
     }
-    void cleanup()
-    {
-        Public_Function::SetTextPrinter({});
-        Public_Function::SetFileAnswerer({});
-        m_messages.reset();
-    }
 
-    void OpensAtTheCurrentText_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("shown");
-        QTest::newRow("general") << u"Data\\English\\E_General\\lunch.txt"_s
-                                 << u"optLanguage0 optClass0 - 2.TXT 10.txt *lunch.txt"_s;
-        QTest::newRow("professional") << u"data\\chinese\\professional\\LAW\\TWO.txt"_s
-                                      << u"optLanguage1 optClass1 Law one.txt *two.txt"_s;
-        QTest::newRow("gone") << u"Data\\Chinese\\E_General\\b.txt"_s << u"optLanguage1 optClass0 - *a.txt"_s;
-    }
     void OpensAtTheCurrentText()
     {
-        QFETCH(QString, path);
-        DlgSelLsn dialog(Shared().InstallDir + path, nullptr);
-        Show(dialog);
-        QTEST(Shown(dialog), "shown");
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-        QCOMPARE(dialog.ChosenFile(), Shared().InstallDir + path);
-        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        for (const auto &[text, shown] :
+             {std::pair(u"English\\E_General\\lunch.txt"_s,
+                        u"optLanguage0 optClass0 - 2.TXT 10.txt *lunch.txt"_s),
+              std::pair(u"chinese\\professional\\LAW\\TWO.txt"_s,
+                        u"optLanguage1 optClass1 Law one.txt *two.txt"_s),
+              std::pair(u"Chinese\\E_General\\gone.txt"_s, u"optLanguage1 optClass0 - *a.txt"_s)}) {
+            const QString path = Shared().InstallDir + u"Data\\"_s + text;
+            DlgSelLsn dialog(path, nullptr);
+            Show(dialog);
+            QCOMPARE(Shown(dialog), shown);
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+            QCOMPARE(dialog.ChosenFile(), path);
+        }
     }
 
     void ChoosesAnotherText()
     {
-        const QString before = Shared().InstallDir + u"Data\\English\\E_General\\lunch.txt"_s;
-        DlgSelLsn dialog(before, nullptr);
+        DlgSelLsn dialog(Shared().InstallDir + u"Data\\English\\E_General\\lunch.txt"_s, nullptr);
         Show(dialog);
         Click(dialog, "optLanguage1");
-        QCOMPARE(Shown(dialog), u"optLanguage1 optClass0 - *a.txt"_s);
         Click(dialog, "optClass1");
         QCOMPARE(Shown(dialog), u"optLanguage1 optClass1 Empty"_s);
         // With nothing to choose there is no OK.
         QTest::keyClick(&dialog, Qt::Key_Enter);
         QVERIFY(dialog.isVisible());
-        QCOMPARE(dialog.ChosenFile(), before);
-        auto *folders = dialog.findChild<QComboBox *>(u"cbxFolder"_s);
-        folders->setFocus();
-        QTest::keyClick(folders, Qt::Key_Down);
+        QTest::keyClick(Part<QComboBox>(dialog, "cbxFolder"), Qt::Key_Down);
         QCOMPARE(Shown(dialog), u"optLanguage1 optClass1 Law *one.txt two.txt"_s);
-        auto *files = dialog.findChild<QListWidget *>(u"lstFile"_s);
+        const auto *files = Part<QListWidget>(dialog, "lstFile");
         const QPoint second = files->visualItemRect(files->item(1)).center();
         QTest::mouseClick(files->viewport(), Qt::LeftButton, {}, second);
         QTest::mouseDClick(files->viewport(), Qt::LeftButton, {}, second);
@@ -93,100 +117,54 @@ private Q_SLOTS:
         QCOMPARE(dialog.ChosenFile(), Shared().InstallDir + u"Data\\Chinese\\Professional\\Law\\two.txt"_s);
     }
 
-    void ReturnsTheMaterial_data()
+    void ReturnsAndPrintsTheMaterial()
     {
-        QTest::addColumn<QByteArrayList>("clicks");
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("path");
-        QTest::newRow("book") << QByteArrayList{"optFile1"} << QString() << u"%data\\Appendix\\Science.txt"_s;
-        QTest::newRow("free") << QByteArrayList{"OptFreeInput"} << QString() << QString();
-        QTest::newRow("own") << QByteArrayList{"optUserFile", "Command1"} << u"%own.txt"_s << u"%own.txt"_s;
-        QTest::newRow("own, then book") << QByteArrayList{"optUserFile", "Command1", "OptBookFile"}
-                                        << u"%own.txt"_s << u"%data\\Appendix\\Sweden.txt"_s;
-        QTest::newRow("own, forgotten")
-            << QByteArrayList{"optUserFile", "Command1", "OptFreeInput", "optUserFile"} << u"%own.txt"_s
-            << QString();
-    }
-    void ReturnsTheMaterial()
-    {
-        QFETCH(QByteArrayList, clicks);
-        QFETCH(QString, file);
-        QFETCH(QString, path);
-        m_file = file.replace(u'%', Shared().InstallDir);
-        m_messages->answer = Public_Function::MessageNo;
-        DlgTestSelect dialog(nullptr);
-        Show(dialog);
-        for (const QByteArray &name : clicks)
-            Click(dialog, name);
-        const bool own = clicks.last() == "Command1" || clicks.last() == "optUserFile";
-        QCOMPARE(Part<QWidget>(dialog, "Command1")->isEnabled(), own);
-        QCOMPARE(Part<QLabel>(dialog, "lblFile")->text(), clicks.last() == "Command1" ? m_file : QString());
-        QTest::keyClick(&dialog, Qt::Key_Return);
-        QVERIFY(dialog.Result());
-        QCOMPARE(dialog.ChosenPath(), path.replace(u'%', Shared().InstallDir));
-        QCOMPARE(m_messages->texts,
-                 path.isEmpty() ? QStringList()
-                                : QStringList{u"You have selected a text file,\nwould you print it?"_s});
-        QCOMPARE(m_printed, QStringList());
+        // What is clicked, how printing goes (nothing: the question is answered with No), and the path that
+        // is returned with all that is asked (?), printed and said.
+        using Row = std::tuple<const char *, std::optional<PrintOutcome>, QString>;
+        const std::optional<PrintOutcome> yes = PrintOutcome::Printed;
+        for (const auto &[clicks, print, result] :
+             {Row{"OptFreeInput", yes, {}},
+              // Browsing that is cancelled keeps the file.
+              Row{"optUserFile Command1 Command1", {}, u"own.txt ?"_s},
+              Row{"optUserFile Command1 OptBookFile", {}, u"data\\Appendix\\Sweden.txt ?"_s},
+              Row{"optUserFile Command1 OptFreeInput optUserFile", yes, {}},
+              Row{"optFile1", yes, u"data\\Appendix\\Science.txt ? Science.txt|text of 文"_s},
+              Row{"optFile1", PrintOutcome::NoPrinter,
+                  u"data\\Appendix\\Science.txt ? Science.txt|text of 文 "
+                  "There is no default printer, so \"Science.txt\" is not printed."_s},
+              Row{"optFile2", yes,
+                  u"data\\Appendix\\Christmas.txt ? "
+                  "The file \"Christmas.txt\" cannot be read, so it is not printed."_s}}) {
+            m_messages->texts.clear();
+            m_messages->answer = print ? Public_Function::MessageYes : Public_Function::MessageNo;
+            m_outcome = print.value_or(PrintOutcome::Failed);
+            m_file = Shared().InstallDir + u"own.txt"_s;
+            DlgTestSelect dialog(nullptr);
+            Show(dialog);
+            QVERIFY(!Part<QWidget>(dialog, "Command1")->isEnabled());
+            for (const QByteArray &name : QByteArray(clicks).split(' '))
+                Click(dialog, name);
+            QCOMPARE(Part<QLabel>(dialog, "lblFile")->text().isEmpty(), !result.startsWith(u"own"));
+            QTest::keyClick(&dialog, Qt::Key_Return);
+            QString told =
+                dialog.ChosenPath().remove(Shared().InstallDir) + u' ' + m_messages->texts.join(u' ');
+            told.replace(u"You have selected a text file,\nwould you print it?"_s, u"?"_s);
+            QCOMPARE(told.simplified(), result);
+            QVERIFY(dialog.Result());
+        }
     }
 
     void ArrowsStayWithinTheirOptions()
     {
         DlgTestSelect dialog(nullptr);
         Show(dialog);
-        const auto pressed = [](Qt::Key key) {
-            QTest::keyClick(QApplication::focusWidget(), key);
-            return QApplication::focusWidget()->objectName();
-        };
-        QCOMPARE(pressed(Qt::Key_Tab), u"optFile0"_s);
-        QCOMPARE(pressed(Qt::Key_Right), u"optFile1"_s);
-        QCOMPARE(pressed(Qt::Key_Backtab), u"OptBookFile"_s);
-        QCOMPARE(pressed(Qt::Key_Down), u"optUserFile"_s);
-        QCOMPARE(pressed(Qt::Key_Tab), u"Command1"_s);
-        QVERIFY(Part<QAbstractButton>(dialog, "optFile1")->isChecked());
-    }
-
-    void CancelledBrowsingKeepsTheFile()
-    {
-        DlgTestSelect dialog(nullptr);
-        Show(dialog);
-        Click(dialog, "optUserFile");
-        for (const QString &answer : {u"/home/ann/own.txt"_s, QString()}) {
-            m_file = answer;
-            Click(dialog, "Command1");
-            QCOMPARE(Part<QLabel>(dialog, "lblFile")->text(), u"/home/ann/own.txt"_s);
+        QStringList visited;
+        for (const auto key : {Qt::Key_Tab, Qt::Key_Right, Qt::Key_Backtab, Qt::Key_Down, Qt::Key_Tab}) {
+            QTest::keyClick(dialog.focusWidget(), key);
+            visited += dialog.focusWidget()->objectName();
         }
-        QTest::keyClick(&dialog, Qt::Key_F4, Qt::AltModifier);
-        QVERIFY(!dialog.isVisible());
-        QVERIFY(!dialog.Result());
-    }
-
-    void PrintsTheChosenText_data()
-    {
-        QTest::addColumn<QByteArray>("option");
-        QTest::addColumn<PrintOutcome>("outcome");
-        QTest::addColumn<QStringList>("printed");
-        QTest::addColumn<QString>("problem");
-        const QStringList science{u"Science.txt|text of 文\r\n"_s};
-        QTest::newRow("printed") << QByteArray("optFile1") << PrintOutcome::Printed << science << QString();
-        QTest::newRow("no printer") << QByteArray("optFile1") << PrintOutcome::NoPrinter << science
-                                    << u"There is no default printer, so \"Science.txt\" is not printed."_s;
-        QTest::newRow("missing") << QByteArray("optFile2") << PrintOutcome::Printed << QStringList()
-                                 << u"The file \"Christmas.txt\" cannot be read, so it is not printed."_s;
-    }
-    void PrintsTheChosenText()
-    {
-        QFETCH(QByteArray, option);
-        QFETCH(QString, problem);
-        QFETCH(PrintOutcome, outcome);
-        m_outcome = outcome;
-        DlgTestSelect dialog(nullptr);
-        Show(dialog);
-        Click(dialog, option);
-        Click(dialog, "BtnOk");
-        QTEST(m_printed, "printed");
-        QCOMPARE(m_messages->texts.mid(1), problem.isEmpty() ? QStringList() : QStringList{problem});
-        QVERIFY(dialog.Result());
+        QCOMPARE(visited.join(u' '), u"optFile0 optFile1 OptBookFile optUserFile Command1"_s);
     }
 
     void LaysATextOutInPages()
@@ -194,99 +172,111 @@ private Q_SLOTS:
         QPrinter printer;
         printer.setOutputFileName(m_install->Native(u"out.pdf"_s));
         QVERIFY(Public_Function::PrintOn(printer, u"One line of text\n"_s.repeated(150), u"lunch"_s));
-        const QByteArray pdf = m_install->Read(u"out.pdf"_s);
-        QVERIFY(pdf.startsWith("%PDF"));
-        QVERIFY(pdf.count("/Type /Page\n") >= 3);
+        QVERIFY(m_install->Read(u"out.pdf"_s).count("/Type /Page\n") >= 3);
     }
 
-    void SettingEnablesWhatApplies()
+    void SettingEnablesWhatAppliesAndIsReadBack()
     {
         DlgTestSetting dialog(nullptr);
         Show(dialog);
-        QCOMPARE(Enabled(dialog), u"optNewLine0 optNewLine1 optNewLine2 chkKeySound"_s);
+        const auto enabled = [&] { return Those(dialog, u"^(chkComp|opt[CO]|txt)"_s, "enabled"); };
+        QCOMPARE(enabled(), QString());
         QVERIFY(!dialog.DisplayMode() && !dialog.EndOption());
         dialog.SetDisplayMode(1);
         dialog.SetEndOption(0, 10);
-        QCOMPARE(Enabled(dialog), u"optNewLine0 optNewLine1 optNewLine2 chkComp optComp0 optComp1 optComp2 "
-                                  "optOverType0 optOverType1 chkKeySound"_s);
+        QCOMPARE(enabled(), u"chkComp optComp0 optComp1 optComp2 optOverType0 optOverType1"_s);
         Click(dialog, "chkComp");
-        QCOMPARE(dialog.DisplayMode(), 2);
         Click(dialog, "optOverType1");
-        QCOMPARE(Enabled(dialog), u"optNewLine0 optNewLine1 optNewLine2 chkComp optComp2 "
-                                  "optOverType0 optOverType1 txtMinutes chkKeySound"_s);
-        Click(dialog, "chkComp");
-        Click(dialog, "optComp0");
-        QCOMPARE(dialog.DisplayMode(), 0);
-        Click(dialog, "optOverType0");
-        QVERIFY(!Part<QWidget>(dialog, "txtMinutes")->isEnabled());
-    }
-
-    void SettingIsReadBack()
-    {
-        DlgTestSetting dialog(nullptr);
-        dialog.SetNewLine(2);
+        QCOMPARE(enabled(), u"chkComp optComp2 txtMinutes optOverType0 optOverType1"_s);
+        QCOMPARE(dialog.DisplayMode(), 2);
         dialog.SetDisplayMode(1);
         dialog.SetEndOption(1, 15);
+        dialog.SetNewLine(2);
         dialog.SetKeySound(true);
-        Show(dialog);
-        QCOMPARE(dialog.NewLine(), 2);
-        QCOMPARE(dialog.MinutesText(), u"15"_s);
-        Click(dialog, "optNewLine1");
-        Click(dialog, "chkKeySound");
-        QTest::keyClick(&dialog, Qt::Key_Enter);
-        QVERIFY(dialog.ReturnValue() && !dialog.isVisible());
-        QCOMPARE(dialog.NewLine(), 1);
-        QCOMPARE(dialog.DisplayMode(), 1);
-        QCOMPARE(dialog.EndOption(), 1);
-        QCOMPARE(dialog.Minutes(), 15);
-        QVERIFY(!dialog.KeySound());
-        dialog.show();
-        Click(dialog, "XBtn_Sys_Close");
-        QVERIFY(!dialog.ReturnValue() && !dialog.isVisible());
-    }
-
-    void ReadsMinutes_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("minutes");
-        const std::array<std::pair<const char *, int>, 10> rows{{{"1234", 123},
-                                                                 {"0.4", 0},
-                                                                 {"0.5", 0},
-                                                                 {"1.5", 2},
-                                                                 {"2,5", 2},
-                                                                 {"", 0},
-                                                                 {".", 0},
-                                                                 {"0", 0},
-                                                                 {"-3", 3},
-                                                                 {"9e9", 99}}};
-        for (const auto &[typed, minutes] : rows)
-            QTest::newRow(typed) << QString::fromLatin1(typed) << minutes;
-    }
-    void ReadsMinutes()
-    {
-        QFETCH(QString, typed);
-        DlgTestSetting dialog(nullptr);
-        dialog.SetEndOption(1, 10);
-        Show(dialog);
+        QCOMPARE(Those(dialog, u"^(opt|chkKey)"_s, "checked"),
+                 u"optComp1 optOverType1 chkKeySound optNewLine2"_s);
         auto *box = Part<QLineEdit>(dialog, "txtMinutes");
-        box->clear();
-        QTest::keyClicks(box, typed);
-        QTEST(dialog.Minutes().value_or(0), "minutes");
+        QString minutes = box->text();
+        for (const char *typed : {"1234", "0.5", "1.5", "2,5", "", ".", "-3"}) {
+            box->clear();
+            QTest::keyClicks(box, QLatin1StringView(typed));
+            minutes += u' ' + QString::number(dialog.Minutes().value_or(0));
+        }
+        QCOMPARE(minutes, u"15 123 0 2 2 0 0 3"_s);
+        for (const char *name : {"optNewLine1", "optComp0", "optOverType0", "chkKeySound"})
+            Click(dialog, name);
+        QVERIFY(!box->isEnabled());
+        QTest::keyClick(&dialog, Qt::Key_Enter);
+        QVERIFY(dialog.ReturnValue() && !dialog.isVisible() && !dialog.KeySound());
+        QCOMPARE(QList({dialog.NewLine(), *dialog.DisplayMode(), *dialog.EndOption()}), QList({1, 0, 0}));
     }
 
-    void TabVisitsEveryControlOnce()
+    void ScaleMarksAreRound()
     {
-        DlgTestSetting dialog(nullptr);
-        dialog.SetDisplayMode(0);
-        dialog.SetEndOption(1, 3);
-        Show(dialog);
-        QStringList visited;
-        for (int i = 0; i < 8; ++i) {
-            visited += QApplication::focusWidget()->objectName();
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        for (const auto &[maximum, marks] :
+             {std::pair(0, u"0"_s), std::pair(1, u"0 1"_s), std::pair(97, u"0 20 40 60 80 97"_s),
+              std::pair(208, u"0 50 100 150 200"_s)}) {
+            QStringList shown;
+            for (const double mark : ChartScale(maximum, 5, true).Marks())
+                shown += ChartScale::Text(mark);
+            QCOMPARE(shown.join(u' '), marks);
         }
-        QCOMPARE(visited, QStringList({u"optNewLine0"_s, u"chkComp"_s, u"optComp0"_s, u"optOverType1"_s,
-                                       u"txtMinutes"_s, u"chkKeySound"_s, u"BtnOk"_s, u"BtnCancel"_s}));
+    }
+
+    void BarsStandAsHighAsTheirValues()
+    {
+        const QList<int> runs = PaintedHeights(ChartData::Kind::Bar, {40, 20, 0, 10}, 40);
+        QVERIFY(runs.size() == 3 && runs[0] > 150);
+        QVERIFY(qAbs(runs[0] - 2 * runs[1]) <= 3 && qAbs(runs[0] - 4 * runs[2]) <= 6);
+        QVERIFY(!PaintedHeights(ChartData::Kind::Line, {40, 20}, 40).isEmpty());
+        QVERIFY(PaintedHeights(ChartData::Kind::Line, {0}, 0).isEmpty());
+    }
+
+    void ShowsTheResult()
+    {
+        FakeServices services;
+        Session session;
+        session.StartType();
+        for (const int units : {40, 55, 30}) {
+            for (int i = 0; i < units; ++i)
+                session.CheckString(u"x"_s);
+            services.clock.Move(30);
+            session.CalTypeSpeed();
+        }
+        session.StopType();
+        session.m_fLastAveSpeed = 12;
+        session.m_fLastRate = 90;
+        session.m_nBackSpace = 7;
+        DlgTestResult dialog(nullptr);
+        QStringList texts;
+        // Without an input method keys are counted, five to a word.
+        for (const QString &ime : {QString(), u"Sunpinyin"_s, u"Intelligent Pinyin"_s}) {
+            QVERIFY(dialog.CalChartData(&session, ime));
+            texts += Part<QLabel>(dialog, "labLevel")->text().section(u' ', -1);
+        }
+        for (const char *name : {"Label2", "Label3", "Label4", "labLevel"})
+            texts += Part<QLabel>(dialog, name)->text();
+        QCOMPARE(texts.join(u'|'), u"Fresher|Beginner|Junior|Correct rate:  90|Average speed: 12|"
+                                   "Backspace key: 7|Your level is:   Junior"_s);
+        dialog.SelectChart(0);
+        Show(dialog);
+        auto *chart = Part<QWidget>(dialog, "picChart");
+        QStringList points;
+        for (const int quarter : {1, 2, 3}) {
+            const QPoint place(chart->width() * quarter / 4, chart->height() / 2);
+            QHelpEvent hover(QEvent::ToolTip, place, chart->mapToGlobal(place));
+            QCoreApplication::sendEvent(chart, &hover);
+            points += QToolTip::text();
+        }
+        QCOMPARE(points.join(u", "_s), u"0.5: 80, 1: 110, 1.5: 60"_s);
+        QCOMPARE(chart->accessibleDescription(), points.join(u", "_s));
+        Click(dialog, "optChart1");
+        // Ten wrong characters have room; of more, the nine most frequent are shown.
+        for (const auto &[count, shown] : {std::pair(10, 10), std::pair(11, 9)}) {
+            session.wrong = {true, std::vector<int>(std::size_t(count), 3), QStringList(count, u"中"_s)};
+            QVERIFY(dialog.CalChartData(&session, {}));
+            QCOMPARE(chart->accessibleDescription(), QStringList(shown, u"中: 3"_s).join(u", "_s));
+        }
     }
 
 private:
@@ -302,39 +292,32 @@ private:
     }
     static void Click(const QWidget &dialog, const QByteArray &name)
     {
-        auto *part = Part<QWidget>(dialog, name);
-        QTest::mouseClick(part, Qt::LeftButton, {}, QPoint(12, part->height() / 2));
+        QTest::mouseClick(Part<QWidget>(dialog, name), Qt::LeftButton, {}, QPoint(12, 12));
+    }
+    /// Names of the controls that have a property.
+    static QString Those(const QWidget &dialog, const QString &controls, const char *property)
+    {
+        QStringList names;
+        for (const auto *control : dialog.findChildren<QWidget *>(QRegularExpression(controls))) {
+            if (control->property(property).toBool())
+                names += control->objectName();
+        }
+        return names.join(u' ');
     }
     static QString Shown(const DlgSelLsn &dialog)
     {
-        QStringList shown;
-        for (const char *name : {"optLanguage0", "optLanguage1", "optClass0", "optClass1"}) {
-            if (Part<QAbstractButton>(dialog, name)->isChecked())
-                shown += QString::fromLatin1(name);
-        }
         const auto *folders = Part<QComboBox>(dialog, "cbxFolder");
-        shown += folders->isEnabled() ? folders->currentText() : u"-"_s;
+        QString shown = Those(dialog, u"^opt"_s, "checked");
+        shown += folders->isEnabled() ? u' ' + folders->currentText() : u" -"_s;
         const auto *files = Part<QListWidget>(dialog, "lstFile");
         for (int row = 0; row < files->count(); ++row)
-            shown += (row == files->currentRow() ? u"*"_s : QString()) + files->item(row)->text();
-        return shown.join(u' ');
-    }
-    static QString Enabled(const DlgTestSetting &dialog)
-    {
-        QStringList enabled;
-        for (const char *name :
-             {"optNewLine0", "optNewLine1", "optNewLine2", "chkComp", "optComp0", "optComp1", "optComp2",
-              "optOverType0", "optOverType1", "txtMinutes", "chkKeySound"}) {
-            if (Part<QWidget>(dialog, name)->isEnabled())
-                enabled += QString::fromLatin1(name);
-        }
-        return enabled.join(u' ');
+            shown += (row == files->currentRow() ? u" *"_s : u" "_s) + files->item(row)->text();
+        return shown;
     }
 
     std::optional<SkinnedInstall> m_install;
-    std::optional<FakeAnswers> m_messages;
-    QStringList m_printed;
-    PrintOutcome m_outcome = PrintOutcome::Printed;
+    std::optional<FakeAnswers> m_messages; ///< and what was printed
+    PrintOutcome m_outcome{};
     QString m_file;
 };
 

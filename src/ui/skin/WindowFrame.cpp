@@ -4,10 +4,8 @@
 #include "ui/skin/SkinLibrary.h"
 
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QWidget>
-#include <QWindow>
 #include <array>
 
 using namespace Qt::Literals::StringLiterals;

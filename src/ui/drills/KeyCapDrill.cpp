@@ -1,16 +1,11 @@
 #include "ui/drills/KeyCapDrill.h"
 
 #include "core/drills/KeyLesson.h"
-#include "core/engine/SoundEffects.h"
 #include "ui/drills/DlgEn_KeyLesson.h"
 #include "ui/widgets/HandsPicture.h"
 #include "ui/widgets/KeyCapRow.h"
-#include "ui/widgets/OnScreenKeys.h"
 
-#include <QInputMethodEvent>
-#include <QKeyEvent>
 #include <QPointer>
-#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,56 +16,27 @@ QString LoadFailureText()
     return u"Thesaurus data initialization failure\nPlease choose other courses."_s;
 }
 
-/// Keys that move, insert or delete elsewhere and mean nothing here.
-bool IsEditingKey(int key)
-{
-    switch (key) {
-    case Qt::Key_Insert:
-    case Qt::Key_Delete:
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-    case Qt::Key_End:
-    case Qt::Key_Home:
-    case Qt::Key_Left:
-    case Qt::Key_Up:
-    case Qt::Key_Right:
-    case Qt::Key_Down:
-        return true;
-    default:
-        return false;
-    }
-}
-
-QString TextOf(char32_t character)
-{
-    return character == 0 ? QString() : QString::fromUcs4(&character, 1);
-}
-
 } // namespace
 
 KeyCapDrill::KeyCapDrill(const DrillFacts &facts, const KeyLessonSettings &settings, Navigator &navigator,
                          QWidget *owner)
-    : DrillWindow(facts, navigator, owner)
+    : TypingDrill(facts, navigator, owner)
     , m_settings(settings)
     , m_capRow(nullptr)
     , picActivateFinger(new HandsPicture(this))
 {
-    setAttribute(Qt::WA_InputMethodEnabled);
-    setInputMethodHints(Qt::ImhLatinOnly | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
 }
 
-void KeyCapDrill::UseOnScreenKeys(OnScreenKeys *keys)
+void KeyCapDrill::OnKeyChecked(bool)
 {
-    m_keys = keys;
-    connect(keys, &OnScreenKeys::KeyChecked, this, [this](const QString &, bool right) {
-        if (!m_session.HasGroups() || m_session.CurrentCharacter() == 0)
-            return;
-        m_keys->SetPromptKey(HasPromptKey(m_session.CurrentCharacter()) ? TextOf(m_session.CurrentCharacter())
-                                                                        : QString());
-        OnKeyChecked(right);
-    });
+    if (m_session.HasGroups())
+        ShowPrompt();
+}
+
+void KeyCapDrill::ShowPrompt()
+{
+    const char32_t expected = m_session.CurrentCharacter();
+    ShowPromptKey(HasPromptKey(expected) ? expected : 0);
 }
 
 void KeyCapDrill::PlaceHands(const QPoint &position, int baseOffset)
@@ -81,7 +47,7 @@ void KeyCapDrill::PlaceHands(const QPoint &position, int baseOffset)
 
 void KeyCapDrill::InitLayout()
 {
-    DrillWindow::InitLayout();
+    TypingDrill::InitLayout();
     const DrillLayout &layout = Layout();
     m_capRow = new KeyCapRow(layout, this);
     const int inset = layout.Pick(12, 16);
@@ -89,8 +55,7 @@ void KeyCapDrill::InitLayout()
     m_capRow->setGeometry(left, layout.origin.y() + layout.Pick(90, 110), layout.Pick(776, 994) - 2 * inset,
                           m_capRow->CapSize().height());
     m_capRow->SetCentre(AreaWidth() / 2 - left);
-    if (m_keys)
-        m_keys->SetSizeSwitch(layout.IsWide());
+    SetKeysSize();
 }
 
 bool KeyCapDrill::InitKeyData(const QString &fileName)
@@ -108,7 +73,7 @@ void KeyCapDrill::LoadTrainData()
 {
     const KeyLessonPlace place = LoadKeyLessonPlace(m_settings);
     m_lessonFile = place.lessonFile;
-    m_soundMode = place.soundMode;
+    SetSoundMode(place.soundMode);
     const bool loaded = InitKeyData(m_lessonFile);
     m_session.BeginAt(place.itemIndex);
     if (!loaded) {
@@ -130,7 +95,7 @@ void KeyCapDrill::RestartLesson()
 
 KeyLessonPlace KeyCapDrill::Place() const
 {
-    return {m_lessonFile, m_session.ItemIndex(), m_soundMode};
+    return {m_lessonFile, m_session.ItemIndex(), SoundMode()};
 }
 
 DrillCounts KeyCapDrill::Counts() const
@@ -166,8 +131,7 @@ void KeyCapDrill::ShowGroup()
         ShowPromptCursor();
     else
         picActivateFinger->SetActiveFinger({}, {});
-    if (m_keys)
-        m_keys->SetPromptKey(prompted ? TextOf(expected) : QString());
+    ShowPrompt();
 }
 
 void KeyCapDrill::ShowPromptCursor()
@@ -179,54 +143,13 @@ void KeyCapDrill::ShowPromptCursor()
     picActivateFinger->SetActiveFinger(hint.strip, hint.name);
 }
 
-void KeyCapDrill::DrillKeyDown(QKeyEvent *event)
+bool KeyCapDrill::CanType() const
 {
-    m_composing = false;
-    const std::u32string typed = TypedCharacters(*event);
-    const bool accepted = AcceptKeyDown(*event, !typed.empty());
-    const QPointer<KeyCapDrill> self(this); // the question at a lesson's end may outlive the window
-    for (const char32_t character : typed) {
-        if (self)
-            TypeCharacter(character, accepted);
-    }
+    return m_session.HasGroups();
 }
 
-/// False when the key is swallowed. It may still have typed a character, which then counts without a key.
-bool KeyCapDrill::AcceptKeyDown(const QKeyEvent &event, bool typesCharacter)
+void KeyCapDrill::TypeCharacter(char32_t typed, bool)
 {
-    const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier) || event.key() == Qt::Key_Control;
-    if (!m_session.HasGroups() || IsEditingKey(event.key()) || (ctrl && !typesCharacter))
-        return false;
-    const bool pause = event.key() == Qt::Key_Pause;
-    if (pause && event.isAutoRepeat())
-        return true;
-    if (pause && Watch().IsRunning()) {
-        PauseClock();
-        ShowHint(tr("Input by the current key suggested"));
-        return true;
-    }
-    // Any key begins the practice, Shift as well: who types a capital first has begun with it.
-    BeginTyping();
-    if (m_keys && IsShownOnKeys(event))
-        m_keys->KeyDown(KeyStrokeOf(event));
-    return true;
-}
-
-void KeyCapDrill::BeginTyping()
-{
-    if (Watch().IsRunning()) {
-        ShowHint(tr("Suspended by PAUSE/BREAK"));
-        return;
-    }
-    StartClock();
-    ShowHint(tr("Input by the current key suggested"));
-}
-
-void KeyCapDrill::TypeCharacter(char32_t typed, bool checked)
-{
-    if (checked && m_keys)
-        m_keys->Check(typed);
-    const QPointer<KeyCapDrill> self(this);
     switch (m_session.TypeCharacter(typed)) {
     case KeyDrillSession::Judgement::Wrong:
         PlayWrong();
@@ -246,76 +169,9 @@ void KeyCapDrill::TypeCharacter(char32_t typed, bool checked)
         CompleteLesson();
         break;
     }
-    if (self && checked && m_keys)
-        m_keys->CharacterHandled();
 }
 
-void KeyCapDrill::PlayRight(char32_t typed) const
+QRect KeyCapDrill::TypingArea() const
 {
-    if (m_soundMode == 1)
-        Public_Function::PlayEffect(u"Type.WAV"_s);
-    else if (m_soundMode == 2)
-        Public_Function::PlayMusicKey(typed > 0xFFFF ? u'\0' : static_cast<char16_t>(typed));
-}
-
-void KeyCapDrill::PlayWrong() const
-{
-    if (m_soundMode != 0)
-        Public_Function::PlayEffect(u"Error.wav"_s);
-}
-
-void KeyCapDrill::DrillKeyUp(QKeyEvent *event)
-{
-    if (m_keys && !event->isAutoRepeat())
-        m_keys->KeyUp(KeyStrokeOf(*event));
-}
-
-void KeyCapDrill::ForgetKeys()
-{
-    if (m_keys)
-        m_keys->ReleaseAllKeys();
-}
-
-void KeyCapDrill::AskForEnglishInput()
-{
-    if (!m_session.HasGroups())
-        return;
-    PlayWrong();
-    ShowHint(tr("Please switch to English input"));
-}
-
-void KeyCapDrill::inputMethodEvent(QInputMethodEvent *event)
-{
-    event->accept();
-    const QString &commit = event->commitString();
-    if (!event->preeditString().isEmpty()) {
-        m_composing = true;
-        AskForEnglishInput();
-        return;
-    }
-    if (commit.isEmpty())
-        return;
-    if (std::exchange(m_composing, false)) {
-        AskForEnglishInput();
-        return;
-    }
-    // Committed without a composition: a dead key or a compose sequence typed it.
-    const QPointer<KeyCapDrill> self(this);
-    for (const char32_t character : commit.toStdU32String()) {
-        if (!self)
-            return;
-        const bool accepted = m_session.HasGroups();
-        if (accepted)
-            BeginTyping();
-        TypeCharacter(character, accepted);
-    }
-}
-
-QVariant KeyCapDrill::inputMethodQuery(Qt::InputMethodQuery query) const
-{
-    if (query == Qt::ImEnabled)
-        return testAttribute(Qt::WA_InputMethodEnabled);
-    if (query == Qt::ImCursorRectangle && m_capRow)
-        return m_capRow->geometry();
-    return DrillWindow::inputMethodQuery(query);
+    return m_capRow ? m_capRow->geometry() : QRect();
 }

@@ -59,6 +59,7 @@ void frmEn_KeyTrain_Basic::FillLessonList(DlgEn_KeyLesson &dialog) const
 
 void frmEn_KeyTrain_Basic::OnKeyChecked(bool right)
 {
+    KeyCapDrill::OnKeyChecked(right);
     if (!right)
         MistakeCount.Add(Session().CurrentCharacter());
 }

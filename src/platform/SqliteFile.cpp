@@ -1,11 +1,17 @@
 #include "platform/SqliteFile.h"
 
 #include <QFileInfo>
+#include <cstring>
 #include <sqlite3.h>
 
 void SqliteFile::Closer::operator()(sqlite3 *database) const
 {
     sqlite3_close_v2(database);
+}
+
+void SqliteFile::Finalizer::operator()(sqlite3_stmt *statement) const
+{
+    sqlite3_finalize(statement);
 }
 
 SqliteFile::SqliteFile(const QString &nativePath)
@@ -21,15 +27,24 @@ SqliteFile::SqliteFile(const QString &nativePath)
         m_database.reset();
 }
 
+SqliteFile::Statement SqliteFile::Prepare(const char *sql) const
+{
+    if (m_last && std::strcmp(sqlite3_sql(m_last.get()), sql) == 0)
+        return std::move(m_last);
+    sqlite3_stmt *statement = nullptr;
+    sqlite3_prepare_v2(m_database.get(), sql, -1, &statement, nullptr);
+    return Statement(statement);
+}
+
 bool SqliteFile::Query(const char *sql, const QVariantList &values,
                        const std::function<bool(const Row &)> &onRow) const
 {
     if (!m_database)
         return false;
-    sqlite3_stmt *statement = nullptr;
-    if (sqlite3_prepare_v2(m_database.get(), sql, -1, &statement, nullptr) != SQLITE_OK)
+    Statement prepared = Prepare(sql);
+    if (!prepared)
         return false;
-    const std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt *)> owner(statement, sqlite3_finalize);
+    sqlite3_stmt *statement = prepared.get();
 
     int index = 1;
     for (const QVariant &value : values) {
@@ -42,15 +57,13 @@ bool SqliteFile::Query(const char *sql, const QVariantList &values,
         }
         ++index;
     }
-    for (;;) {
-        const int step = sqlite3_step(statement);
-        if (step == SQLITE_DONE)
-            return true;
-        if (step != SQLITE_ROW)
-            return false;
-        if (!onRow(Row(statement)))
-            return true;
-    }
+    int step = sqlite3_step(statement);
+    while (step == SQLITE_ROW && onRow(Row(statement)))
+        step = sqlite3_step(statement);
+    sqlite3_reset(statement); // gives up the lock on the file
+    sqlite3_clear_bindings(statement);
+    m_last = std::move(prepared);
+    return step == SQLITE_DONE || step == SQLITE_ROW;
 }
 
 QByteArray SqliteFile::Row::Bytes(int column) const

@@ -7,6 +7,7 @@
 #include <memory>
 
 struct sqlite3;
+struct sqlite3_stmt;
 
 /// Read-only use of an SQLite file. A missing, damaged or foreign file is simply not usable; nothing crashes.
 class SqliteFile
@@ -34,7 +35,8 @@ public:
     };
 
     /// Runs a query and gives `onRow` each row until it returns false. `values` are bound in order (QString,
-    /// int or qint64). False when the query could not be run to its end, as with a damaged file.
+    /// int or qint64). The query that ran last stays prepared, so that the same one again is cheap. False
+    /// when the query could not be run to its end, as with a damaged file.
     bool Query(const char *sql, const QVariantList &values,
                const std::function<bool(const Row &)> &onRow) const;
 
@@ -43,5 +45,14 @@ private:
     {
         void operator()(sqlite3 *database) const;
     };
+    struct Finalizer
+    {
+        void operator()(sqlite3_stmt *statement) const;
+    };
+    using Statement = std::unique_ptr<sqlite3_stmt, Finalizer>;
+
+    Statement Prepare(const char *sql) const;
+
     std::unique_ptr<sqlite3, Closer> m_database;
+    mutable Statement m_last; // not running
 };

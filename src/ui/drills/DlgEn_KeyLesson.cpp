@@ -11,30 +11,16 @@
 using namespace Qt::Literals::StringLiterals;
 
 DlgEn_KeyLesson::DlgEn_KeyLesson(QWidget *owner)
-    : SkinnedDialog(owner)
+    : DrillDialog(u"DlgEn_KeyLesson"_s, QSize(360, 370), owner)
     , lstLesson(new QListWidget(this))
-    , BtnOk(new SkinButton(u"BtnOk"_s, tr("OK"), this))
-    , BtnCancel(new SkinButton(u"BtnCancel"_s, tr("Cancel"), this))
 {
-    setObjectName(u"DlgEn_KeyLesson"_s);
-    resize(360, 370);
     lstLesson->setObjectName(u"lstLesson"_s);
     lstLesson->setAccessibleName(tr("Lessons"));
-    lstLesson->setGeometry(20, TitleHeight() + 16, width() - 40, height() - TitleHeight() - 16 - 62);
+    lstLesson->setGeometry(ContentArea());
     Public_Function::StyleDialogList(lstLesson);
-
-    BtnOk->move(0, height() - 45);
-    BtnCancel->move(0, height() - 45);
-    SkinOkCancel(BtnOk, BtnCancel, 0);
     BtnOk->setEnabled(false);
-    SetDefaultButton(BtnOk);
-    setTabOrder(lstLesson, BtnOk);
-    setTabOrder(BtnOk, BtnCancel);
-    connect(BtnOk, &SkinButton::clicked, this, &DlgEn_KeyLesson::accept);
-    connect(BtnCancel, &SkinButton::clicked, this, &DlgEn_KeyLesson::reject);
     connect(lstLesson, &QListWidget::itemDoubleClicked, this, &DlgEn_KeyLesson::accept);
-    SkinDialog(u"Quorvex"_s);
-    lstLesson->setFocus();
+    FinishDialog({lstLesson});
 }
 
 void DlgEn_KeyLesson::ShowKeyLesson()
@@ -68,6 +54,5 @@ void DlgEn_KeyLesson::accept()
     if (row < 0)
         return;
     m_lessonFile = m_files.at(row);
-    m_returnValue = DialogAnswer::Confirmed;
-    SkinnedDialog::accept();
+    DrillDialog::accept();
 }

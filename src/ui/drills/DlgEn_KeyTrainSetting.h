@@ -1,33 +1,25 @@
 #pragma once
 
-#include "ui/drills/DialogAnswer.h"
-#include "ui/skin/SkinnedDialog.h"
+#include "ui/drills/DrillDialog.h"
 
-#include <array>
+class OptionColumn;
 
-class QRadioButton;
-class SkinButton;
-
-/// Chooses the key sound of the key drills: 0 none, 1 key sounds, 2 music keyboard.
-class DlgEn_KeyTrainSetting final : public SkinnedDialog
+/// Chooses what a key drill sounds like.
+class DlgEn_KeyTrainSetting final : public DrillDialog
 {
     Q_OBJECT
 
 public:
     explicit DlgEn_KeyTrainSetting(QWidget *owner);
 
-    /// Selects the option of that mode; any other value selects none.
+    /// 0 no sound, 1 key sounds, 2 music keyboard; any other value checks no option.
     void SetSoundEffect(int mode);
-
-    DialogAnswer ReturnValue() const { return m_returnValue; }
+    /// The option that was chosen, or the mode that was set when none was.
     int SoundEffect() const { return m_soundEffect; }
 
     void accept() override;
 
 private:
-    std::array<QRadioButton *, 3> opnSetting{};
-    SkinButton *BtnOk;
-    SkinButton *BtnCancel;
-    int m_soundEffect = 0;
-    DialogAnswer m_returnValue = DialogAnswer::Cancelled;
+    OptionColumn *m_sounds;
+    int m_soundEffect = 1;
 };

@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <QTimer>
 
 ChoiceBox::ChoiceBox(const QString &objectName, const QString &accessibleName, QWidget *parent)
     : QComboBox(parent)
@@ -15,6 +16,16 @@ ChoiceBox::ChoiceBox(const QString &objectName, const QString &accessibleName, Q
     setStyleSheet(Public_Function::DialogChoiceStyle());
     // Only this delegate draws the entries as the style sheet says.
     setItemDelegate(new QStyledItemDelegate(this));
+}
+
+void ChoiceBox::hidePopup()
+{
+    // The list closes before its entry becomes the chosen one.
+    QTimer::singleShot(0, this, [this, before = currentIndex()] {
+        if (currentIndex() != before)
+            Q_EMIT ChosenFromList();
+    });
+    QComboBox::hidePopup();
 }
 
 void ChoiceBox::paintEvent(QPaintEvent *event)

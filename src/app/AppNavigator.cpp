@@ -135,6 +135,11 @@ bool AppNavigator::OpenPersonalRecords()
     return false;
 }
 
+void AppNavigator::OfferPlacementTest()
+{
+    SayNotYet(tr("The placement test"));
+}
+
 void AppNavigator::ShowMainMenu()
 {
     if (m_main && m_main->isVisible()) {

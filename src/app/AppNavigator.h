@@ -25,6 +25,7 @@ public:
     void OpenFreeTyping(QWidget *instead = nullptr) override;
     void ShowTopList(QWidget *owner) override;
     bool OpenPersonalRecords() override;
+    void OfferPlacementTest() override;
     void ShowMainMenu() override;
     void MinimizeAll() override;
     void ShowHelp(QWidget *from) override;

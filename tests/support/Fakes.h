@@ -22,13 +22,16 @@ public:
     void OpenSpeedTest(QWidget *instead) override { Lead(QStringLiteral("speed test"), instead); }
     void OpenFreeTyping(QWidget *instead) override { Lead(QStringLiteral("free typing"), instead); }
     void ShowTopList(QWidget *) override { tests += QStringLiteral("top list"); }
-    bool OpenPersonalRecords() override { return false; }
+    bool OpenPersonalRecords() override { return retest; }
+    void OfferPlacementTest() override { ++placementTests; }
     void ShowMainMenu() override { ++menuShown; }
     void MinimizeAll() override { ++minimized; }
     void ShowHelp(QWidget *from) override { helpPages += from->objectName(); }
 
     bool drillsExist = true;
     QList<DrillKind> opened;
+    bool retest = false; ///< what the personal records are left with
+    int placementTests = 0;
     int menuShown = 0;
     int minimized = 0;
     QStringList helpPages;

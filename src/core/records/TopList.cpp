@@ -1,25 +1,16 @@
 #include "core/records/TopList.h"
 
 #include "core/records/IUserRecord.h"
+#include "core/records/NumberText.h"
 #include "core/shell/UserList.h"
 
 #include <QSet>
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// The shortest decimal text that means this float and no other.
-QString ShortestText(float number)
-{
-    std::array<char, 64> text;
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-    return QString::fromLatin1(text.data(), end.ptr - text.data());
-}
 
 /// Fastest first, equally fast ones as they were. Places are sorted in place of entries, which are large.
 std::vector<TopListEntry> Ranked(std::vector<TopListEntry> entries)

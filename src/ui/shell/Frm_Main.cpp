@@ -77,8 +77,8 @@ Frm_Main::Frm_Main(Navigator &navigator)
     connect(XBtnGameMissile, &SkinButton::clicked, this, [this] { StartProgram(u"game\\missile.Exe"_s); });
     connect(XBtnGameRabbit, &SkinButton::clicked, this, [this] { StartProgram(u"game\\rabbit.Exe"_s); });
     connect(XBtn_Gerenjilu, &SkinButton::clicked, this, [this] {
-        if (EnsureUser())
-            m_navigator.OpenPersonalRecords();
+        if (EnsureUser() && m_navigator.OpenPersonalRecords())
+            m_navigator.OfferPlacementTest();
     });
     connect(XBtn_Tuichudenglu, &SkinButton::clicked, this, &Frm_Main::UserLogin);
     connect(XBtn_Sys_Help, &SkinButton::clicked, this, [this] { m_navigator.ShowHelp(this); });

@@ -20,7 +20,11 @@ public:
     virtual void OpenFreeTyping(QWidget *instead = nullptr) = 0;
     /// Shows the fastest tests of all users over `owner` until it is closed.
     virtual void ShowTopList(QWidget *owner) = 0;
+    /// Shows the user's records over the main window until they are closed. True when the user asked there
+    /// for a new placement test, which is to be offered then.
     virtual bool OpenPersonalRecords() = 0;
+    /// Asks whether to take the placement test, and opens it when the answer is yes.
+    virtual void OfferPlacementTest() = 0;
     /// Brings the main window to the front.
     virtual void ShowMainMenu() = 0;
     /// Minimises the main window and, with it, every window that it owns.

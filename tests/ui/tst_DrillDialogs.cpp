@@ -1,0 +1,175 @@
+#include "support/SkinnedInstall.h"
+#include "ui/drills/DlgEn_ArticleLesson.h"
+#include "ui/drills/DlgEn_ArticleTrainSetting.h"
+#include "ui/drills/DlgEn_WordLesson.h"
+#include "ui/drills/DlgEn_WordTrainSetting.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QListWidget>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class tst_DrillDialogs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_install.emplace();
+        for (const char *file :
+             {"T_Article/Adage/1.txt", "T_Article/Adage/11.txt", "T_Article/Adage/2.TXT",
+              "T_Article/Bare/notes.doc", "Professional/Law/one.txt", "Professional/Law/two.txt"})
+            m_install->Write(u"Data/English/"_s + QLatin1StringView(file), "text");
+    }
+
+    void HandsBackADictionary()
+    {
+        struct Row
+        {
+            int classSteps;
+            int listSteps;
+            bool cancelled;
+            QString result; ///< name, folder and file name
+        };
+        for (const auto &[classSteps, listSteps, cancelled, result] :
+             {Row{0, 0, false, u"Toefl|Dictionary\\|TOEFL"_s}, Row{0, 2, false, u"GMAT|Dictionary\\|GMAT"_s},
+              Row{1, 10, false, u"Psychics|Professional\\|PsychicsEN"_s},
+              Row{2, 0, false, u"Familiar word|General\\|1000"_s}, Row{1, 3, true, u"||"_s}}) {
+            DlgEn_WordLesson dialog(nullptr);
+            Show(dialog);
+            Press(Part<QComboBox>(dialog, "cbxClass"), Qt::Key_Down, classSteps);
+            Press(Part<QListWidget>(dialog, "lstDictionary"), Qt::Key_Down, listSteps);
+            QTest::keyClick(&dialog, cancelled ? Qt::Key_Escape : Qt::Key_Enter);
+            QCOMPARE(dialog.ReturnValue(), cancelled ? DialogAnswer::Cancelled : DialogAnswer::Confirmed);
+            const QString root = Shared().InstallDir + u"Data\\English\\T_Word\\"_s;
+            QCOMPARE(dialog.DictionaryName() + u'|' + dialog.DictionaryPath().remove(root) + u'|' +
+                         dialog.DictionaryFileName(),
+                     result);
+        }
+    }
+
+    void HandsBackAnArticle()
+    {
+        DlgEn_ArticleLesson dialog(nullptr);
+        Show(dialog);
+        auto *articles = Part<QComboBox>(dialog, "cbxFolder0");
+        auto *professional = Part<QComboBox>(dialog, "cbxFolder1");
+        const auto *files = Part<QListWidget>(dialog, "lstFile");
+        QCOMPARE(Texts(*files), u"1.txt 2.TXT 11.txt"_s);
+        QVERIFY(articles->isEnabled() && !professional->isEnabled());
+
+        // A folder without texts leaves the list.
+        Press(articles, Qt::Key_Down, 1);
+        QCOMPARE(articles->currentText(), u"Bare"_s);
+        QCOMPARE(Texts(*files), u"1.txt 2.TXT 11.txt"_s);
+
+        Part<QAbstractButton>(dialog, "OpnClass1")->click();
+        QCOMPARE(Texts(*files), u"one.txt two.txt"_s);
+        QVERIFY(!articles->isEnabled() && professional->isEnabled());
+        const QPoint second = files->visualItemRect(files->item(1)).center();
+        QTest::mouseClick(files->viewport(), Qt::LeftButton, {}, second);
+        QTest::mouseDClick(files->viewport(), Qt::LeftButton, {}, second);
+        QCOMPARE(dialog.ReturnValue(), DialogAnswer::Confirmed);
+        QCOMPARE(dialog.ArticleFile(), Shared().InstallDir + u"Data\\English\\Professional\\Law\\two.txt"_s);
+        QCOMPARE(dialog.ArticleMessage(), u"Law:two.txt"_s);
+    }
+
+    void OffersNothingWithoutTexts()
+    {
+        m_install.emplace();
+        DlgEn_ArticleLesson dialog(nullptr);
+        Show(dialog);
+        QTest::keyClick(&dialog, Qt::Key_Enter);
+        QVERIFY(dialog.isVisible());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QCOMPARE(dialog.ReturnValue(), DialogAnswer::Cancelled);
+    }
+
+    void ReturnsWhatIsSet()
+    {
+        struct Row
+        {
+            int mode;
+            int sound;
+            QByteArray clicks;
+            QString checked;
+            std::pair<int, int> result;
+        };
+        for (const auto &[mode, sound, clicks, checked, result] :
+             {Row{3, 0, "optUIStyle2 opnSetting1", u"optUIStyle0 opnSetting0"_s, {5, 1}},
+              Row{9, 2, "", u"optUIStyle1 opnSetting2"_s, {4, 2}}, Row{7, 5, "optUIStyle0", u""_s, {3, 5}},
+              Row{10, 1, "", u"optUIStyle2 opnSetting1"_s, {5, 1}}}) {
+            DlgEn_ArticleTrainSetting dialog(nullptr);
+            dialog.SetTrainMode(mode);
+            dialog.SetSoundEffect(sound);
+            Show(dialog);
+            QCOMPARE(Checked(dialog), checked);
+            for (const QByteArray &click : clicks.split(' ')) {
+                if (!click.isEmpty())
+                    Part<QAbstractButton>(dialog, click)->click();
+            }
+            QTest::keyClick(&dialog, Qt::Key_Return);
+            QCOMPARE(std::pair(dialog.TrainMode(), dialog.SoundEffect()), result);
+        }
+    }
+
+    void LeavesExplanationsToThoseWhoHaveThem()
+    {
+        for (const bool allowed : {false, true}) {
+            DlgEn_WordTrainSetting dialog(nullptr);
+            dialog.SetSoundEffect(2);
+            dialog.SetShowExplanation(0, allowed);
+            Show(dialog);
+            auto *tick = Part<QAbstractButton>(dialog, "chkShowExplanation");
+            QCOMPARE(tick->isEnabled(), allowed);
+            QTest::mouseClick(tick, Qt::LeftButton, {}, QPoint(10, tick->height() / 2));
+            QTest::keyClick(&dialog, Qt::Key_Return);
+            QCOMPARE(dialog.ShowExplanation(), allowed ? 1 : 0);
+            QCOMPARE(dialog.SoundEffect(), 2);
+        }
+    }
+
+private:
+    static void Show(QWidget &dialog)
+    {
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    }
+    template <typename Widget>
+    static Widget *Part(const QWidget &dialog, const QByteArray &name)
+    {
+        auto *part = dialog.findChild<Widget *>(QString::fromLatin1(name));
+        if (!part)
+            qFatal("no %s", name.constData());
+        return part;
+    }
+    static void Press(QWidget *widget, Qt::Key key, int times)
+    {
+        for (int i = 0; i < times; ++i)
+            QTest::keyClick(widget, key);
+    }
+    static QString Texts(const QListWidget &list)
+    {
+        QStringList texts;
+        for (int row = 0; row < list.count(); ++row)
+            texts += list.item(row)->text();
+        return texts.join(u' ');
+    }
+    static QString Checked(const QWidget &dialog)
+    {
+        QStringList names;
+        for (const auto *button : dialog.findChildren<QAbstractButton *>()) {
+            if (button->isChecked())
+                names += button->objectName();
+        }
+        return names.join(u' ');
+    }
+
+    std::optional<SkinnedInstall> m_install;
+};
+
+QTEST_MAIN(tst_DrillDialogs)
+#include "tst_DrillDialogs.moc"

@@ -1,9 +1,11 @@
 # cmake -DFROM=folder -DTO=folder -P UpdateFolder.cmake: brings TO up to date with FROM, byte for byte, and leaves alone
 # what people put or changed there. TO/.shipped notes the check sums of what was shipped, so that a file is replaced or
 # removed only while it is still the one that came from here. A missing file comes back. Names are without [ ] ;
+# Word lists (*.tsv) are what dictionaries are made of; nobody needs them to practise.
 
 file(GLOB_RECURSE names RELATIVE "${FROM}" "${FROM}/*")
 list(REMOVE_ITEM names .shipped)
+list(FILTER names EXCLUDE REGEX "\\.tsv$")
 set(note "${TO}/.shipped")
 set(shipped)
 set(sums)

@@ -1,0 +1,223 @@
+#include "core/drills/DictionaryCatalogue.h"
+#include "core/drills/clsEn_IDict.h"
+#include "support/Damage.h"
+#include "support/DictionaryBytes.h"
+#include "support/TestInstall.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString Words(const clsEn_IDict &dictionary)
+{
+    QStringList words;
+    for (qint32 i = 0; i < dictionary.GetWordAmount(); ++i)
+        words += dictionary.GetWord(i);
+    return words.join(u' ');
+}
+
+} // namespace
+
+class tst_Dictionary : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_install = std::make_unique<TestInstall>(); }
+
+    void wordLists()
+    {
+        const QByteArray two = ListRecord(1, "art", 2) + ListRecord(2, "sky", 3);
+        const QList<std::pair<QByteArray, QString>> lists{
+            {two, u"art sky"_s},
+            {QByteArray(), QString()},
+            {ListRecord(1, "", 1) + ListRecord(2, "{abc}", 1), QString()},
+            {ListRecord(1, "", 1) + ListRecord(2, "a{b", 1) + ListRecord(3, "{", 1) + two, u"a{b art sky"_s},
+            {two + two, u"art sky art sky"_s},
+            {two + "\1\0\0\0\xFF\xFF"_ba + two, u"art sky"_s},
+            {ListRecord(1, QByteArray(65535, 'a'), 1) + two, QString(65535, u'a') + u" art sky"_s},
+            {two + ListRecord(3, "caf\xC3\xA9", 1), u"art sky café"_s},
+            // Alone, the bytes of the last word would pass for UTF-8.
+            {ListRecord(1, "\xC1\xB7\xCF\xB0", 1) + ListRecord(2, "\xBC\xFC", 1) +
+                 ListRecord(3, "\xC4\xA3", 1),
+             u"练习 键 模"_s}};
+        for (const auto &[list, words] : lists) {
+            clsEn_IDict dictionary;
+            m_install->Write(u"D/x.ID"_s, list);
+            QCOMPARE(dictionary.InitDictionary(Shared().InstallDir + u"d\\"_s, u"X"_s), !words.isEmpty());
+            QCOMPARE(Words(dictionary), words);
+        }
+        for (qsizetype size = 0; size < two.size(); ++size) { // cut anywhere
+            clsEn_IDict dictionary;
+            QCOMPARE(Load(dictionary, two.first(size)), size >= two.size() / 2);
+            QCOMPARE(Words(dictionary), size < two.size() / 2 ? QString() : u"art"_s);
+        }
+        std::mt19937 random(7);
+        for (int round = 0; round < 500; ++round) {
+            clsEn_IDict dictionary;
+            const bool loaded = Load(dictionary, Damaged(two, random));
+            QCOMPARE(loaded, dictionary.GetWordAmount() > 0);
+            QVERIFY(Words(dictionary).size() <= 2 * two.size());
+        }
+    }
+
+    void positions()
+    {
+        clsEn_IDict dictionary;
+        WriteEntryFile(m_install->Write(u"x.Dat"_s, ""), {{-5, "& [ɑrt]\n% n. \n# a skill"}});
+        QCOMPARE(dictionary.GetWordDifficulty(0), qint16(0)); // nothing is loaded
+        QCOMPARE(Words(dictionary) + dictionary.GetExplanation(0), QString());
+        QVERIFY(Load(dictionary, ListRecord(-5, "art", -2) + ListRecord(9, "sky", 32767)));
+        for (const qint32 outside :
+             {-1, 2, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()}) {
+            QCOMPARE(dictionary.GetWord(outside), QString());
+            QCOMPARE(dictionary.GetPhonetic_Symbol(outside), QString());
+            QCOMPARE(dictionary.GetExplanation(outside), QString());
+            QCOMPARE(dictionary.GetWordDifficulty(outside), qint16(0));
+        }
+        QCOMPARE(dictionary.GetWordDifficulty(0), qint16(-2));
+        QCOMPARE(dictionary.GetWordDifficulty(1), qint16(32767));
+        QCOMPARE(dictionary.GetPhonetic_Symbol(0), u"ɑrt"_s);
+        QCOMPARE(dictionary.GetExplanation(0), u"n. a skill"_s);
+        QCOMPARE(dictionary.GetExplanation(1), QString()); // has no entry
+    }
+
+    void entryTexts()
+    {
+        struct Case
+        {
+            QByteArray text;
+            QString phonetic;
+            QString explanation;
+        };
+        const QList<Case> cases{{"x\n&12abc3\n&zzzz9", u"abc"_s, {}},
+                                {"% pos\n% n.\n# meaning\n# other", {}, u"n.meaning"_s},
+                                {"% n. \n\\ abc", {}, u"n. abc"_s},
+                                {"% n. \n% v. ", {}, {}},
+                                {"% n. \n%\n# a", {}, u"n. a"_s},
+                                {"# a\n% n. ", {}, u"a"_s},
+                                {"% n. \n#\n# a", {}, {}},
+                                {"% n. \n# ", {}, u"n. "_s},
+                                {"&123", {}, {}},
+                                {"&1\n&12a3", {}, {}},
+                                {"&12a\r\n% n. \r\n# a\r", u"a"_s, u"n. \ra\r"_s},
+                                {"", {}, {}},
+                                {"\n\n", {}, {}}};
+        std::vector<std::pair<int, QByteArray>> entries;
+        QByteArray list;
+        for (const Case &entry : cases) {
+            entries.emplace_back(int(entries.size()) + 1, entry.text);
+            list += ListRecord(int(entries.size()), "w", 1);
+        }
+        WriteEntryFile(m_install->Write(u"x.Dat"_s, ""), entries);
+        clsEn_IDict dictionary;
+        QVERIFY(Load(dictionary, list));
+        for (qint32 i = 0; i < cases.size(); ++i) {
+            QCOMPARE(dictionary.GetPhonetic_Symbol(i), cases[i].phonetic);
+            QCOMPARE(dictionary.GetExplanation(i), cases[i].explanation);
+        }
+    }
+
+    void entryFilesThatCannotBeRead()
+    {
+        const QString path = m_install->Write(u"x.Dat"_s, "");
+        WriteEntryFile(path, {{1, "# one"}});
+        const QByteArray good = m_install->Read(u"x.Dat"_s);
+        clsEn_IDict dictionary;
+        QVERIFY(Load(dictionary, ListRecord(1, "art", 1)));
+        QCOMPARE(dictionary.GetExplanation(0), u"one"_s);
+        {
+            const LockedDatabase locked(path);
+            QCOMPARE(dictionary.GetExplanation(0), QString());
+        }
+        QCOMPARE(dictionary.GetExplanation(0), u"one"_s);
+
+        const QByteArray tableLess = QByteArray(good).replace("entry", "entri");
+        for (const QByteArray &bad :
+             {QByteArray("no database"), QByteArray(""), tableLess, good.first(100)}) {
+            m_install->Write(u"x.Dat"_s, bad);
+            QVERIFY(Load(dictionary, ListRecord(1, "art", 1)));
+            QCOMPARE(dictionary.GetExplanation(0), QString());
+        }
+        QVERIFY(QFile::remove(path));
+        QVERIFY(Load(dictionary, ListRecord(1, "art", 1)));
+        QCOMPARE(dictionary.GetPhonetic_Symbol(0), QString());
+        m_install->Write(u"x.Dat"_s, good); // and back again
+        QCOMPARE(dictionary.GetExplanation(0), u"one"_s);
+
+        std::mt19937 random(3);
+        for (int round = 0; round < 200; ++round) {
+            m_install->Write(u"x.Dat"_s, Damaged(good, random));
+            QVERIFY(Load(dictionary, ListRecord(1, "art", 1)));
+            QVERIFY(dictionary.GetExplanation(0).size() < good.size());
+        }
+    }
+
+    void loadingAgain()
+    {
+        clsEn_IDict dictionary;
+        WriteEntryFile(m_install->Write(u"x.Dat"_s, ""), {{1, "# one"}});
+        QVERIFY(Load(dictionary, ListRecord(1, "art", 1)));
+        QVERIFY(!dictionary.InitDictionary(Shared().InstallDir, u"none"_s));
+        QCOMPARE(Words(dictionary) + dictionary.GetExplanation(0), u"artone"_s);
+
+        WriteEntryFile(m_install->Write(u"y.Dat"_s, ""), {{1, "# two"}});
+        m_install->Write(u"y.ID"_s, ListRecord(1, "sky", 1) + ListRecord(1, "sea", 1));
+        QVERIFY(dictionary.InitDictionary(Shared().InstallDir, u"y"_s));
+        QCOMPARE(Words(dictionary) + dictionary.GetExplanation(1), u"sky seatwo"_s);
+
+        QVERIFY(!Load(dictionary, ListRecord(1, "{", 1)));
+        QCOMPARE(Words(dictionary) + dictionary.GetExplanation(0), QString());
+    }
+
+    void catalogue()
+    {
+        QStringList files;
+        for (const DictionaryCatalogue::Class &one : DictionaryCatalogue::Classes()) {
+            for (const DictionaryCatalogue::Dictionary &dictionary : one.dictionaries)
+                files += one.name + u": "_s + dictionary.displayName + u" = "_s + dictionary.fileName;
+        }
+        QCOMPARE(files.size(), 15);
+        QCOMPARE(files.front(), u"Normal: Toefl = TOEFL"_s);
+        QCOMPARE(files[13], u"Professional: Psychics = PsychicsEN"_s);
+        QCOMPARE(files.back(), u"Familiar: Familiar word = 1000"_s);
+        QCOMPARE(DictionaryCatalogue::ExplainedPath(),
+                 Shared().InstallDir + u"Data\\English\\T_Word\\Dictionary\\"_s);
+    }
+
+    /// What the build made can be read, and shows nothing empty.
+    void shipped()
+    {
+        Shared().InstallDir = Public_Function::ProductPath(qEnvironmentVariable("QUORVEX_INSTALL")) + u'\\';
+        int made = 0;
+        for (const DictionaryCatalogue::Class &one : DictionaryCatalogue::Classes()) {
+            for (const DictionaryCatalogue::Dictionary &dictionary : one.dictionaries) {
+                clsEn_IDict words;
+                if (!words.InitDictionary(one.Path(), dictionary.fileName))
+                    continue;
+                ++made;
+                const bool isExplained = one.Path() == DictionaryCatalogue::ExplainedPath();
+                for (qint32 i = 0; i < words.GetWordAmount(); ++i) {
+                    QVERIFY2(!words.GetExplanation(i).isEmpty(), qPrintable(words.GetWord(i)));
+                    QVERIFY2(!isExplained || !words.GetPhonetic_Symbol(i).isEmpty(),
+                             qPrintable(words.GetWord(i)));
+                }
+            }
+        }
+        QVERIFY(made > 0);
+    }
+
+private:
+    bool Load(clsEn_IDict &dictionary, const QByteArray &list)
+    {
+        m_install->Write(u"x.ID"_s, list);
+        return dictionary.InitDictionary(Shared().InstallDir, u"x"_s);
+    }
+
+    std::unique_ptr<TestInstall> m_install;
+};
+
+QTEST_GUILESS_MAIN(tst_Dictionary)
+#include "tst_Dictionary.moc"

@@ -15,6 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int SidePadding = 6;
+constexpr int CaretWidth = 2;
 constexpr int MostLaidOut = 256; ///< more than the widest box holds of the narrowest letters
 constexpr int KeptBehind = 10;   ///< characters in sight before the typing position after the view has moved
 constexpr int KeptAhead = 3;     ///< and at least behind it before it moves
@@ -45,6 +46,15 @@ QAccessibleInterface *MakeTypingLineAccess(const QString &, QObject *object)
 bool IsBlank(char32_t character)
 {
     return character == 0x3000 || QChar::isSpace(character);
+}
+
+/// A line break inside the line, or another control character, is drawn as a space.
+QString Drawn(char32_t character)
+{
+    const QChar::Category kind = QChar::category(character);
+    const bool blank =
+        kind == QChar::Other_Control || kind == QChar::Separator_Line || kind == QChar::Separator_Paragraph;
+    return blank ? u" "_s : QString::fromUcs4(&character, 1);
 }
 
 QTextCharFormat FormatOf(TypingLine::Look look, bool blank)
@@ -89,6 +99,14 @@ QFont TypingLine::TextFont(int scaledPoints)
 int TypingLine::Columns() const
 {
     return (width() - 2 * SidePadding) / qMax(1, fontMetrics().horizontalAdvance(u'a'));
+}
+
+bool TypingLine::Fits(const std::u32string &text) const
+{
+    QString drawn;
+    for (const char32_t character : text)
+        drawn += Drawn(character);
+    return QFontMetricsF(font()).horizontalAdvance(drawn) <= width() - 2 * SidePadding;
 }
 
 void TypingLine::SetLine(std::u32string text, std::vector<Look> looks)
@@ -138,13 +156,23 @@ void TypingLine::Truncate(int length)
 
 void TypingLine::SetPosition(int position, bool marked)
 {
-    if (m_marked)
-        update(CellRect(m_position));
+    UpdatePlace();
     m_position = position;
     m_marked = marked && position >= 0;
     if (position >= 0)
         Follow();
-    if (m_marked)
+    UpdatePlace();
+}
+
+void TypingLine::SetCaret(bool shown)
+{
+    m_caret = shown;
+    UpdatePlace();
+}
+
+void TypingLine::UpdatePlace()
+{
+    if (m_marked || m_caret)
         update(CellRect(m_position));
 }
 
@@ -201,14 +229,7 @@ void TypingLine::EnsureLayout()
     m_offsets.clear();
     for (int i = m_first; i < end; ++i) {
         m_offsets.push_back(static_cast<int>(shown.size()));
-        const char32_t character = m_text[static_cast<std::size_t>(i)];
-        const QChar::Category kind = QChar::category(character);
-        // A line break inside the line, or another control character, is drawn as a space.
-        if (kind == QChar::Other_Control || kind == QChar::Separator_Line ||
-            kind == QChar::Separator_Paragraph)
-            shown += u' ';
-        else
-            shown += QChar::fromUcs4(character);
+        shown += Drawn(m_text[static_cast<std::size_t>(i)]);
     }
     m_offsets.push_back(static_cast<int>(shown.size()));
     m_laidOutSoFar += end - m_first;
@@ -244,6 +265,12 @@ QRect TypingLine::CellRect(int position)
     return {std::min(left, right), 0, std::max(1, std::abs(right - left)), height()};
 }
 
+/// Between the box's edge and the line of text.
+int TypingLine::CellMargin() const
+{
+    return qMax(0, (height() - fontMetrics().height()) / 2 - 1);
+}
+
 QString TypingLine::ShownText()
 {
     EnsureLayout();
@@ -256,8 +283,11 @@ void TypingLine::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     painter.fillRect(event->rect(), m_paper);
     if (m_marked && m_position < Length()) {
-        const int margin = qMax(0, (height() - fontMetrics().height()) / 2 - 1);
-        painter.fillRect(CellRect(m_position).adjusted(0, margin, 0, -margin), m_lit);
+        painter.fillRect(CellRect(m_position).adjusted(0, CellMargin(), 0, -CellMargin()), m_lit);
+    }
+    if (m_caret && m_position >= 0) {
+        const QRect cell = CellRect(m_position).adjusted(0, CellMargin(), 0, -CellMargin());
+        painter.fillRect(cell.left(), cell.top(), CaretWidth, cell.height(), QColor(40, 46, 58));
     }
     if (m_layout.lineCount() == 0)
         return;

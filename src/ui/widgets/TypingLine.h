@@ -24,6 +24,8 @@ public:
     static QFont TextFont(int scaledPoints);
     /// How many letters "a" the box holds beside one another.
     int Columns() const;
+    /// Whether the box shows all of the text at once.
+    bool Fits(const std::u32string &text) const;
 
     /// Shows another text from its start, without a typing position. What has no look is untyped.
     void SetLine(std::u32string text, std::vector<Look> looks = {});
@@ -32,6 +34,8 @@ public:
     void Truncate(int length);
     /// The place that the view follows, 0 to Length(), or -1 for none; `marked` lights the character there.
     void SetPosition(int position, bool marked);
+    /// Draws a caret before the position.
+    void SetCaret(bool shown);
 
     int Length() const { return static_cast<int>(m_text.size()); }
     QString Text() const { return QString::fromStdU32String(m_text); }
@@ -55,13 +59,16 @@ private:
     QList<QTextLayout::FormatRange> Colours() const;
     int ShownEnd() const { return m_first + static_cast<int>(m_offsets.size()) - 1; }
     qreal LeftOf(int position) const;
+    int CellMargin() const;
     void UpdateFrom(int left);
+    void UpdatePlace();
     void Follow();
 
     std::u32string m_text;
     std::vector<Look> m_looks;
     int m_position = -1;
     bool m_marked = false;
+    bool m_caret = false;
 
     QTextLayout m_layout;
     int m_first = 0;            ///< the first character that is laid out

@@ -109,6 +109,6 @@ class StopWords:
         return hashlib.sha256(word.encode()).hexdigest()[:16]
 
     def find(self, text):
-        """The forbidden words of a text, each once."""
-        words = set(re.findall(r"[a-z]+", text.lower()))
+        """The forbidden words of a text, each once. A compound is a word of its own: roosters may crow."""
+        words = set(re.findall(r"[a-z]+(?:-[a-z]+)*", text.lower()))
         return sorted(word for word in words if self.hash(word) in self.hashes)

@@ -33,7 +33,7 @@ private Q_SLOTS:
             {{140, 16}, 1, {"PROGRESSBAR_BLUE", "PROGRESSBAR_GREEN"}},
             {{994, 40}, 1, {"EN_LABEL_KEY_B", "EN_LABEL_KEY_E", "EN_LABEL_WORD", "EN_LABEL_ARTICLE"}},
             {{994, 40}, 1, {"TEST_LABEL_NEIBU", "TEST_LABEL_WAIBU", "TEST_LABEL_TINGDA"}},
-            {{994, 664}, 1, {"EN_KEY_BACK_B", "EN_KEY_BACK_E"}},
+            {{994, 664}, 1, {"EN_KEY_BACK_B", "EN_KEY_BACK_E", "EN_WORD_BACK"}},
             {{994, 664}, 1, {"TEST_DANHANG_BACK", "TEST_DUIZHAO_BACK", "TEST_FUGAI_BACK"}},
             {{590, 290}, 1, {"HIGHSCORE_BACK"}},
             {{525, 162}, 1, {"HAND_CLEAR", "HAND_ON"}},

@@ -1,22 +1,9 @@
 #include "ui/drills/KeyCapDrill.h"
 
 #include "core/drills/KeyLesson.h"
-#include "ui/drills/DlgEn_KeyLesson.h"
+#include "ui/drills/KeyLessonDialogs.h"
 #include "ui/widgets/HandsPicture.h"
 #include "ui/widgets/KeyCapRow.h"
-
-#include <QPointer>
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-QString LoadFailureText()
-{
-    return u"Thesaurus data initialization failure\nPlease choose other courses."_s;
-}
-
-} // namespace
 
 KeyCapDrill::KeyCapDrill(const DrillFacts &facts, const KeyLessonSettings &settings, Navigator &navigator,
                          QWidget *owner)
@@ -77,7 +64,7 @@ void KeyCapDrill::LoadTrainData()
     const bool loaded = InitKeyData(m_lessonFile);
     m_session.BeginAt(place.itemIndex);
     if (!loaded) {
-        ReportLoadFailure(LoadFailureText());
+        ReportLoadFailure(KeyLessonDialogs::LoadFailureText());
         return;
     }
     UpdateStatus(true);
@@ -106,17 +93,15 @@ DrillCounts KeyCapDrill::Counts() const
 
 void KeyCapDrill::SelectLesson()
 {
-    DlgEn_KeyLesson dialog(this);
-    FillLessonList(dialog);
-    const QPointer<KeyCapDrill> self(this);
-    dialog.exec();
-    if (!self || dialog.ReturnValue() != DialogAnswer::Confirmed)
+    const auto file =
+        KeyLessonDialogs::ChooseLesson(this, [this](DlgEn_KeyLesson &dialog) { FillLessonList(dialog); });
+    if (!file)
         return;
-    if (!InitKeyData(dialog.LessonFile())) {
-        ReportLoadFailure(LoadFailureText());
+    if (!InitKeyData(*file)) {
+        ReportLoadFailure(KeyLessonDialogs::LoadFailureText());
         return;
     }
-    m_lessonFile = dialog.LessonFile();
+    m_lessonFile = *file;
     RestartLesson();
 }
 

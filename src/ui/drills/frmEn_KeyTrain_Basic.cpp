@@ -2,11 +2,9 @@
 
 #include "core/drills/FallibleKeyLesson.h"
 #include "ui/drills/DlgEn_KeyLesson.h"
-#include "ui/drills/DlgEn_KeyTrainSetting.h"
+#include "ui/drills/KeyLessonDialogs.h"
 #include "ui/widgets/OnScreenKeyboard.h"
 #include "ui/widgets/SkinButton.h"
-
-#include <QPointer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -66,12 +64,8 @@ void frmEn_KeyTrain_Basic::OnKeyChecked(bool right)
 
 void frmEn_KeyTrain_Basic::ChangeSettings()
 {
-    DlgEn_KeyTrainSetting dialog(this);
-    dialog.SetSoundEffect(SoundMode());
-    const QPointer<frmEn_KeyTrain_Basic> self(this);
-    dialog.exec();
-    if (self && dialog.ReturnValue() == DialogAnswer::Confirmed)
-        SetSoundMode(dialog.SoundEffect());
+    if (const auto mode = KeyLessonDialogs::ChooseSound(this, SoundMode()))
+        SetSoundMode(*mode);
 }
 
 void frmEn_KeyTrain_Basic::SaveTrainData()

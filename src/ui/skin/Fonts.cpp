@@ -37,6 +37,13 @@ QFont Public_Function::InterfaceFont(qreal points, bool bold)
     return FontOfPixels(points * 96 / 72, bold);
 }
 
+QFont Public_Function::PhoneticFont(qreal points)
+{
+    QFont font = InterfaceFont(points);
+    font.setFamilies(QStringList{u"Quorvex Phonetic"_s, u"DejaVu Sans"_s} + font.families());
+    return font;
+}
+
 QFont Public_Function::DisplayFont(int scaledPoints, bool bold)
 {
     const QScreen *screen = QGuiApplication::primaryScreen();

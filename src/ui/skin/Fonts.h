@@ -12,7 +12,11 @@ void LoadFonts();
 /// The interface font in a size of points at 96 dots per inch, whatever the screen's.
 QFont InterfaceFont(qreal points, bool bold = false);
 
-/// The same in a size that is already scaled, as the entries of `FontSizeTable` are.
+/// The font of phonetic symbols, called "Quorvex Phonetic": one that has all signs of the International
+/// Phonetic Alphabet.
+QFont PhoneticFont(qreal points);
+
+/// The interface font in a size that is already scaled, as the entries of `FontSizeTable` are.
 QFont DisplayFont(int scaledPoints, bool bold = false);
 
 } // namespace Public_Function

@@ -1,0 +1,36 @@
+#include "ui/drills/KeyLessonDialogs.h"
+
+#include "ui/drills/DlgEn_KeyLesson.h"
+#include "ui/drills/DlgEn_KeyTrainSetting.h"
+
+#include <QPointer>
+
+using namespace Qt::Literals::StringLiterals;
+
+QString KeyLessonDialogs::LoadFailureText()
+{
+    return u"Thesaurus data initialization failure\nPlease choose other courses."_s;
+}
+
+std::optional<QString> KeyLessonDialogs::ChooseLesson(QWidget *drill,
+                                                      const std::function<void(DlgEn_KeyLesson &)> &fill)
+{
+    DlgEn_KeyLesson dialog(drill);
+    fill(dialog);
+    const QPointer<QWidget> self(drill);
+    dialog.exec();
+    if (!self || dialog.ReturnValue() != DialogAnswer::Confirmed)
+        return std::nullopt;
+    return dialog.LessonFile();
+}
+
+std::optional<int> KeyLessonDialogs::ChooseSound(QWidget *drill, int mode)
+{
+    DlgEn_KeyTrainSetting dialog(drill);
+    dialog.SetSoundEffect(mode);
+    const QPointer<QWidget> self(drill);
+    dialog.exec();
+    if (!self || dialog.ReturnValue() != DialogAnswer::Confirmed)
+        return std::nullopt;
+    return dialog.SoundEffect();
+}

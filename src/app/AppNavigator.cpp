@@ -4,7 +4,9 @@
 #include "platform/Paths.h"
 #include "platform/Services.h"
 #include "platform/SoundPlayer.h"
+#include "ui/drills/frmEn_KeyTrain_Advanced.h"
 #include "ui/drills/frmEn_KeyTrain_Basic.h"
+#include "ui/drills/frmEn_WordTrain.h"
 #include "ui/records/DlgHighScore.h"
 #include "ui/shell/DlgHelp.h"
 #include "ui/shell/Frm_Main.h"
@@ -62,13 +64,9 @@ bool AppNavigator::CanOpenDrill(DrillKind kind)
 {
     switch (kind) {
     case DrillKind::KeyJunior:
-        return true;
     case DrillKind::KeySenior:
-        SayNotYet(tr("The key drill for seniors"));
-        break;
     case DrillKind::Word:
-        SayNotYet(tr("The word drill"));
-        break;
+        return true;
     case DrillKind::Article:
         SayNotYet(tr("The text drill"));
         break;
@@ -103,7 +101,16 @@ void AppNavigator::OpenDrill(DrillKind kind, QWidget *instead)
         return;
     if (Shared().EnSound != 0)
         PlatformServices().sound->WarmUp();
-    OpenPractice<frmEn_KeyTrain_Basic>(instead, &frmEn_KeyTrain_Basic::ShowDrill);
+    switch (kind) {
+    case DrillKind::KeySenior:
+        OpenPractice<frmEn_KeyTrain_Advanced>(instead, &frmEn_KeyTrain_Advanced::ShowDrill);
+        break;
+    case DrillKind::Word:
+        OpenPractice<frmEn_WordTrain>(instead, &frmEn_WordTrain::ShowDrill);
+        break;
+    default:
+        OpenPractice<frmEn_KeyTrain_Basic>(instead, &frmEn_KeyTrain_Basic::ShowDrill);
+    }
 }
 
 void AppNavigator::OpenSpeedTest(QWidget *instead)

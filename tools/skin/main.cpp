@@ -55,7 +55,10 @@ PictureList MakeSkinPictures(const Theme &theme)
     AddTabStrips(list, theme);
     AddDrillPanels(list, theme);
     AddTestPanels(list, theme);
+    AddArticlePanels(list, theme);
     AddTopList(list, theme);
+    AddManagePages(list, theme);
+    AddManageTabs(list, theme);
     AddKeyCaps(list, theme);
     AddKeyboards(list, theme);
     AddHands(list, theme);

@@ -6,11 +6,13 @@
 #include <vector>
 
 /// How a line of an article is made to fit: the width that a text takes, as a whole number, and the width of
-/// the box.
+/// the box. Without a box, 80 characters are a line.
 struct LineMeasure
 {
-    std::function<int(const QString &)> widthOf;
-    int boxWidth = 0;
+    std::function<int(const QString &)> widthOf = [](const QString &text) {
+        return static_cast<int>(text.size());
+    };
+    int boxWidth = 80;
 };
 
 /// A text cut into tokens: its words, with the punctuation that is attached to them, and a line break after

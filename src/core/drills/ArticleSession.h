@@ -48,6 +48,8 @@ public:
     /// A typed character; Backspace (8) and Enter (13) as such. When the article is done another character
     /// counts as wrong, and it is done again.
     Outcome TypeCharacter(char32_t typed);
+    /// The character to type, 0 when the article is done.
+    char32_t Expected() const;
     /// Whether the place to type at is a line end, which only Enter, Space and Backspace leave.
     bool AtLineEnd() const { return Expected() == U'\r'; }
 
@@ -68,8 +70,6 @@ public:
     static int LinesPerPage(DisplayForm form);
 
 private:
-    /// The character to type, 0 when the article is done.
-    char32_t Expected() const;
     void ShowArticlePage(int index);
     Outcome TakeBack();
     bool StepBackInPlace();

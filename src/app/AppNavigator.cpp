@@ -4,6 +4,7 @@
 #include "platform/Paths.h"
 #include "platform/Services.h"
 #include "platform/SoundPlayer.h"
+#include "ui/drills/frmEn_ArticleTrain.h"
 #include "ui/drills/frmEn_KeyTrain_Advanced.h"
 #include "ui/drills/frmEn_KeyTrain_Basic.h"
 #include "ui/drills/frmEn_WordTrain.h"
@@ -66,10 +67,8 @@ bool AppNavigator::CanOpenDrill(DrillKind kind)
     case DrillKind::KeyJunior:
     case DrillKind::KeySenior:
     case DrillKind::Word:
-        return true;
     case DrillKind::Article:
-        SayNotYet(tr("The text drill"));
-        break;
+        return true;
     case DrillKind::Numpad:
         SayNotYet(tr("The numeric keypad drill"));
         break;
@@ -107,6 +106,9 @@ void AppNavigator::OpenDrill(DrillKind kind, QWidget *instead)
         break;
     case DrillKind::Word:
         OpenPractice<frmEn_WordTrain>(instead, &frmEn_WordTrain::ShowDrill);
+        break;
+    case DrillKind::Article:
+        OpenPractice<frmEn_ArticleTrain>(instead, &frmEn_ArticleTrain::ShowDrill);
         break;
     default:
         OpenPractice<frmEn_KeyTrain_Basic>(instead, &frmEn_KeyTrain_Basic::ShowDrill);

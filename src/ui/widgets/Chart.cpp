@@ -34,9 +34,11 @@ void Chart::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(141, 148, 167), 1));
-    painter.setBrush(Qt::white);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+    if (m_panel) {
+        painter.setPen(QPen(QColor(141, 148, 167), 1));
+        painter.setBrush(Qt::white);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+    }
     ChartPainter(m_data, rect(), m_textFont).Paint(painter);
 }
 

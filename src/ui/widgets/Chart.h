@@ -4,7 +4,8 @@
 
 #include <QWidget>
 
-/// A chart on a white panel. The value under the mouse is its tooltip; all are its accessible description.
+/// A chart, on a white panel of its own or on what its parent paints. The value under the mouse is its
+/// tooltip; all are its accessible description.
 class Chart : public QWidget
 {
     Q_OBJECT
@@ -15,6 +16,7 @@ public:
     void SetData(const ChartData &chart);
     /// The size of all its texts, in points at 96 dots per inch.
     void SetTextSize(qreal points);
+    void SetPanel(bool panel) { m_panel = panel; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -23,4 +25,5 @@ protected:
 private:
     ChartData m_data;
     QFont m_textFont;
+    bool m_panel = true;
 };

@@ -1,5 +1,7 @@
 #include "ui/widgets/ChartPainter.h"
 
+#include "ui/skin/SkinLibrary.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
@@ -11,6 +13,8 @@ namespace {
 
 constexpr qreal ChartPad = 8;
 constexpr qreal ChartGap = 5;
+/// Between the marks and a plot whose place is given.
+constexpr qreal PlacedGap = 3;
 constexpr qreal WidestBar = 44;
 constexpr QColor ChartGridColor(228, 231, 238);
 constexpr QColor ChartAxisColor(141, 148, 167);
@@ -41,14 +45,25 @@ ChartPainter::ChartPainter(const ChartData &data, const QRectF &area, const QFon
     , m_area(area)
     , m_font(font)
     , m_titleFont(font)
-    , m_scale(data.maximum, 5, data.wholeNumbers)
+    , m_scale(data.scaleParts > 0 ? ChartScale::InParts(data.maximum, data.scaleParts)
+                             : ChartScale(data.maximum, 5, data.wholeNumbers))
 {
     m_titleFont.setBold(true);
+    PlacePlot();
+}
+
+void ChartPainter::PlacePlot()
+{
     const QFontMetricsF text(m_font);
     const qreal line = std::ceil(text.height());
     qreal widest = 0;
     for (const double mark : m_scale.Marks())
-        widest = qMax(widest, text.horizontalAdvance(ChartScale::Text(mark)));
+        widest = qMax(widest, text.horizontalAdvance(m_scale.MarkText(mark)));
+    if (HasPlaces()) {
+        m_plot = m_data.places.plot;
+        m_plot.setLeft(qMax(m_plot.left(), std::ceil(m_area.left() + widest + PlacedGap)));
+        return;
+    }
     const qreal left = ChartPad + (m_data.valueTitle.isEmpty() ? 0 : line + ChartGap) + widest + ChartGap;
     // Above the plot there is always room for the value of its highest point.
     const qreal top = ChartPad + line + ChartGap + (m_data.title.isEmpty() ? 0 : line);
@@ -64,12 +79,14 @@ bool ChartPainter::IsEmpty() const
 
 qreal ChartPainter::SlotWidth() const
 {
+    if (m_data.places.slotWidth > 0)
+        return m_data.places.slotWidth;
     return m_plot.width() / qreal(qMax<qsizetype>(1, m_data.values.size()));
 }
 
 qreal ChartPainter::CentreOf(qsizetype index) const
 {
-    return m_plot.left() + (qreal(index) + 0.5) * SlotWidth();
+    return m_plot.left() + m_data.places.firstSlot + (qreal(index) + 0.5) * SlotWidth();
 }
 
 QPointF ChartPainter::PointOf(qsizetype index) const
@@ -85,9 +102,10 @@ QSizeF ChartPainter::TextSize(const QString &text) const
 
 int ChartPainter::IndexAt(const QPointF &position) const
 {
-    if (m_data.values.isEmpty() || position.x() < m_plot.left() || position.x() >= m_plot.right())
+    if (!m_area.contains(position) || m_data.values.isEmpty())
         return -1;
-    return static_cast<int>((position.x() - m_plot.left()) / SlotWidth());
+    const qreal slot = std::floor((position.x() - m_plot.left() - m_data.places.firstSlot) / SlotWidth());
+    return slot >= 0 && slot < qreal(m_data.values.size()) ? static_cast<int>(slot) : -1;
 }
 
 void ChartPainter::Paint(QPainter &painter) const
@@ -114,6 +132,7 @@ void ChartPainter::Paint(QPainter &painter) const
 void ChartPainter::PaintGrid(QPainter &painter) const
 {
     const qreal lineHeight = QFontMetricsF(m_font).height();
+    const qreal gap = HasPlaces() ? PlacedGap : ChartGap;
     for (const double mark : m_scale.Marks()) {
         // Half a pixel down, a line of one pixel is sharp.
         const qreal y = std::floor(m_plot.bottom() - HeightOf(mark)) + 0.5;
@@ -121,8 +140,8 @@ void ChartPainter::PaintGrid(QPainter &painter) const
         painter.drawLine(QPointF(m_plot.left(), y), QPointF(m_plot.right(), y));
         painter.setPen(ChartTextColor);
         painter.drawText(
-            QRectF(m_area.left(), y - lineHeight / 2, m_plot.left() - ChartGap - m_area.left(), lineHeight),
-            Qt::AlignRight | Qt::AlignVCenter, ChartScale::Text(mark));
+            QRectF(m_area.left(), y - lineHeight / 2, m_plot.left() - gap - m_area.left(), lineHeight),
+            Qt::AlignRight | Qt::AlignVCenter, m_scale.MarkText(mark));
     }
     painter.setPen(QPen(ChartAxisColor, 1));
     const qreal x = std::floor(m_plot.left()) + 0.5;
@@ -133,6 +152,12 @@ void ChartPainter::PaintTitles(QPainter &painter) const
 {
     const qreal line = std::ceil(QFontMetricsF(m_font).height());
     painter.setPen(ChartTitleColor);
+    if (HasPlaces()) {
+        const qreal ascent = QFontMetricsF(m_font).ascent();
+        painter.drawText(m_data.places.valueTitle + QPointF(0, ascent), m_data.valueTitle);
+        painter.drawText(m_data.places.labelTitle + QPointF(0, ascent), m_data.labelTitle);
+        return;
+    }
     painter.setFont(m_titleFont);
     painter.drawText(QRectF(m_plot.left(), m_area.top() + ChartPad - 2, m_plot.width(), line),
                      Qt::AlignCenter, m_data.title);
@@ -150,10 +175,13 @@ void ChartPainter::PaintTitles(QPainter &painter) const
 void ChartPainter::PaintLabels(QPainter &painter) const
 {
     qreal widest = 1;
-    for (const QString &label : m_data.labels)
-        widest = qMax(widest, TextSize(ReadableLabel(label)).width());
-    const qsizetype most = qMax<qsizetype>(1, qsizetype(m_plot.width() / (widest + 8)));
+    // Of very many labels some are as good as all, and measuring takes time.
+    const qsizetype step = m_data.labels.size() / 200 + 1;
+    for (qsizetype i = 0; i < m_data.labels.size(); i += step)
+        widest = qMax(widest, TextSize(ReadableLabel(m_data.labels[i])).width());
     const qsizetype count = m_data.values.size();
+    const qreal width = SlotWidth() * qreal(count);
+    const qsizetype most = qMax<qsizetype>(1, qsizetype(width / (widest + 8)));
     const auto stride = qMax<qsizetype>(
         1, qsizetype(ChartScale(double(count), static_cast<int>(most), true).Marks().value(1)));
     const qreal top = m_plot.bottom() + ChartGap;
@@ -171,7 +199,12 @@ void ChartPainter::PaintLabels(QPainter &painter) const
 void ChartPainter::PaintBars(QPainter &painter) const
 {
     // Whole pixels: bars of fractions would be pale and of unequal widths.
-    const qreal width = qMax(1.0, std::round(qMin(WidestBar, SlotWidth() * 0.64)));
+    const qreal free = std::round(qMin(WidestBar, SlotWidth() * 0.64));
+    const qreal width = m_data.places.barWidth > 0 ? m_data.places.barWidth : qMax(1.0, free);
+    const QPixmap picture =
+        m_data.barPicture.isEmpty()
+            ? QPixmap()
+            : SkinLibrary().Bitmap(m_data.barPicture, painter.device()->devicePixelRatioF());
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_data.color);
     for (qsizetype i = 0; i < m_data.values.size(); ++i) {
@@ -181,6 +214,10 @@ void ChartPainter::PaintBars(QPainter &painter) const
         const qreal round = width > 8 ? qMin(3.0, height) : 0;
         const qreal top = std::floor(m_plot.bottom() - height);
         const QRectF bar(std::round(CentreOf(i) - width / 2), top, width, std::floor(m_plot.bottom()) - top);
+        if (!picture.isNull()) {
+            painter.drawPixmap(bar, picture, picture.rect());
+            continue;
+        }
         // The foot is square: its round corners lie below the axis.
         painter.save();
         painter.setClipRect(bar);
@@ -191,13 +228,9 @@ void ChartPainter::PaintBars(QPainter &painter) const
 
 void ChartPainter::PaintLine(QPainter &painter) const
 {
-    const qsizetype count = m_data.values.size();
-    if (count == 0)
+    const QPolygonF line = LinePoints();
+    if (line.isEmpty())
         return;
-    QPolygonF line;
-    line.reserve(count + 2);
-    for (qsizetype i = 0; i < count; ++i)
-        line += PointOf(i);
     QColor under = m_data.color;
     under.setAlpha(28);
     QPolygonF ground = line;
@@ -215,6 +248,28 @@ void ChartPainter::PaintLine(QPainter &painter) const
     painter.setBrush(Qt::white);
     for (const QPointF &point : std::as_const(line))
         painter.drawEllipse(point, 3.5, 3.5);
+}
+
+QPolygonF ChartPainter::LinePoints() const
+{
+    QPolygonF line;
+    const qsizetype count = m_data.values.size();
+    const bool each = SlotWidth() >= 1;
+    for (qsizetype i = 0; i < count; ++i) {
+        const QPointF point = PointOf(i);
+        // A column has two points at the most; a third one takes the place of one between the other two.
+        const qsizetype last = line.size() - 1;
+        const bool third = !each && last >= 1 && std::floor(line[last - 1].x()) == std::floor(point.x());
+        if (!third) {
+            line += point;
+            continue;
+        }
+        const auto [low, high] = std::minmax({line[last - 1].y(), line[last].y(), point.y()});
+        const bool rising = point.y() < line[last - 1].y();
+        line[last - 1].setY(rising ? high : low);
+        line[last] = QPointF(point.x(), rising ? low : high);
+    }
+    return line;
 }
 
 void ChartPainter::PaintBarValues(QPainter &painter) const
@@ -251,7 +306,7 @@ void ChartPainter::PaintPointValues(QPainter &painter) const
         const auto isFree = [&](const QRectF &box) {
             return !box.adjusted(-3, 0, 3, 0).intersects(before) && box.left() >= m_plot.left() + 2 &&
                    box.right() <= m_area.right() - 2 && box.bottom() < m_plot.bottom() - 1 &&
-                   (i == 0 || !BoxCrosses(box, PointOf(i - 1), point)) &&
+                   box.top() >= m_area.top() && (i == 0 || !BoxCrosses(box, PointOf(i - 1), point)) &&
                    (i + 1 == count || !BoxCrosses(box, point, PointOf(i + 1)));
         };
         const qreal up = -size.height() - 5;

@@ -28,7 +28,11 @@ private:
     void PaintLine(QPainter &painter) const;
     void PaintBarValues(QPainter &painter) const;
     void PaintPointValues(QPainter &painter) const;
+    /// The line's points; of many days that share a column of pixels, the lowest and the highest.
+    QPolygonF LinePoints() const;
 
+    void PlacePlot();
+    bool HasPlaces() const { return m_data.places.plot.isValid(); }
     qreal SlotWidth() const;
     qreal CentreOf(qsizetype index) const;
     qreal HeightOf(double value) const { return m_plot.height() * m_scale.Share(value); }

@@ -34,6 +34,16 @@ ChartScale::ChartScale(double maximum, int mostMarks, bool wholeNumbers)
         m_marks += m_maximum;
 }
 
+ChartScale ChartScale::InParts(double maximum, int parts)
+{
+    ChartScale scale(maximum, 1, false);
+    scale.m_inParts = true;
+    scale.m_marks = {0};
+    for (int part = 1; scale.m_maximum > 0 && part <= parts; ++part)
+        scale.m_marks += scale.m_maximum / parts * part;
+    return scale;
+}
+
 double ChartScale::Share(double value) const
 {
     return m_maximum > 0 && value > 0 ? qMin(1.0, value / m_maximum) : 0;
@@ -43,5 +53,14 @@ QString ChartScale::Text(double value)
 {
     if (!std::isfinite(value) || value < 0)
         value = 0;
-    return std::abs(value) < 1e6 ? QString::number(value, 'g', 6) : QString::number(value, 'f', 0);
+    if (value >= 1e6 && value < 1e12)
+        return QString::number(value, 'f', 0);
+    return QString::number(value, 'g', 6);
+}
+
+QString ChartScale::MarkText(double value) const
+{
+    if (!m_inParts)
+        return Text(value);
+    return value < 999.5 ? QString::number(value, 'g', 3) : Text(std::round(value));
 }

@@ -160,6 +160,12 @@ void IUserRecord::OpenTrainingRecord(int group)
     SortRecordList(*list, SortKey::Date);
 }
 
+bool IUserRecord::IsTrainingReadable(int group) const
+{
+    const TrainingList *const list = Training(group);
+    return list && !list->unreadable;
+}
+
 void IUserRecord::AddTrainingRecord(float speed, float rate, const QString &text, int group)
 {
     TrainingList *const list = Training(group);
@@ -250,6 +256,17 @@ float IUserRecord::GetTrainingVeracityAverage(int group) const
 IUserRecord::MistakeList *IUserRecord::Mistakes(int language)
 {
     return EntryAt(m_mistakes, language);
+}
+
+const IUserRecord::MistakeList *IUserRecord::Mistakes(int language) const
+{
+    return EntryAt(m_mistakes, language);
+}
+
+bool IUserRecord::IsMistakeReadable(int language) const
+{
+    const MistakeList *const list = Mistakes(language);
+    return list && !list->unreadable;
 }
 
 bool IUserRecord::IsEmpty(const MistakeList &list)

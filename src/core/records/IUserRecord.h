@@ -36,6 +36,8 @@ public:
 
     /// Reads the group's file into the list, in order of dates, in place of what was there.
     void OpenTrainingRecord(int group);
+    /// False when there was a file that could not be read: the list says nothing about it then.
+    bool IsTrainingReadable(int group) const;
     void CloseTrainingRecord(int group) { ClearAllTrainingRecord(group); }
     /// Today's result: it becomes today's record when it is the first, or strictly faster than the one there
     /// is. A speed of 0, or a speed or rate that is no finite number, is no result.
@@ -58,6 +60,7 @@ public:
     /// Reads the language's file into the list, in file order, in place of what was there. A missing file
     /// leaves the list as it is.
     void OpenMistakeRecord(int language);
+    bool IsMistakeReadable(int language) const; ///< as IsTrainingReadable
     /// Adds to a character's count, which stays at 32,767 when it gets there. Only one printable character is
     /// taken, and none of the usual Chinese punctuation; a character of ASCII clears `chinese`, counts in
     /// upper case and goes into the English list, another one goes into the Chinese list if `chinese` is set.
@@ -99,6 +102,7 @@ private:
     TrainingList *Training(int group);
     const TrainingList *Training(int group) const;
     MistakeList *Mistakes(int language);
+    const MistakeList *Mistakes(int language) const;
 
     QString m_currentUser;
     std::array<TrainingList, 4> m_training;

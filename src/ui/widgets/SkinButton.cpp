@@ -58,7 +58,7 @@ void SkinButton::paintEvent(QPaintEvent *)
     int frame = Normal;
     if (!isEnabled())
         frame = Disabled;
-    else if (isDown())
+    else if (isDown() || isChecked())
         frame = Pressed;
     else if (underMouse())
         frame = Hovered;

@@ -8,7 +8,7 @@ class SkinLibrary;
 
 /// A button whose looks are the frames of one picture, side by side: normal, hovered, pressed, disabled and,
 /// where the strip has a fifth, focused. Without a picture it is a plain button with its accessible name on
-/// it. It takes the size of one frame. Space, Enter and Return press it.
+/// it. It takes the size of one frame. Space, Enter and Return press it; one that is checked looks pressed.
 class SkinButton : public QAbstractButton
 {
     Q_OBJECT

@@ -2,6 +2,7 @@
 
 #include "ui/skin/DialogStyle.h"
 #include "ui/skin/Fonts.h"
+#include "ui/widgets/TickMark.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -24,10 +25,5 @@ void TickBox::paintEvent(QPaintEvent *event)
     initStyleOption(&option);
     const QRectF box(style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, this));
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const auto at = [&](qreal x, qreal y) {
-        return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
-    };
-    painter.drawPolyline(QPolygonF{at(0.25, 0.53), at(0.43, 0.71), at(0.76, 0.31)});
+    PaintTickMark(painter, box);
 }

@@ -9,7 +9,8 @@
 #include <QtTest>
 #include <QtWidgets>
 
-/// A junior key drill of the user Ann in an install folder of its own: what a person sees and does there.
+/// A drill of the user Ann, the junior key drill if not another one, in an install folder of its own: what a
+/// person sees and does there.
 class KeyDrillTest : public QObject
 {
 protected:
@@ -29,11 +30,12 @@ protected:
     {
         m_install->Write(StandardFolder + QLatin1StringView(name), text.toUtf8());
     }
+    template <typename Drill = frmEn_KeyTrain_Basic>
     void Open(const QString &index = QString())
     {
         if (!index.isNull())
             Store(QStringLiteral("KeyTrain_Index"), index);
-        m_drill = new frmEn_KeyTrain_Basic(*m_navigator, &m_owner);
+        m_drill = new Drill(*m_navigator, &m_owner);
         m_drill->ShowDrill();
         QVERIFY(QTest::qWaitForWindowActive(m_drill));
         QTest::qWait(0);
@@ -109,5 +111,5 @@ protected:
     std::optional<FakeNavigator> m_navigator;
     std::optional<FakeAnswers> m_messages;
     QWidget m_owner;
-    QPointer<frmEn_KeyTrain_Basic> m_drill;
+    QPointer<DrillWindow> m_drill;
 };

@@ -1,0 +1,322 @@
+#include "platform/InputMethod.h"
+#include "platform/Services.h"
+#include "support/DictionaryBytes.h"
+#include "support/KeyDrillTest.h"
+#include "ui/drills/frmEn_KeyTrain_Advanced.h"
+#include "ui/drills/frmEn_WordTrain.h"
+#include "ui/widgets/TypingLine.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The drills that are typed line by line: the key drill for seniors and the word drill.
+class tst_LineDrills : public KeyDrillTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        SetUp();
+        WriteDictionary("Dictionary/TOEFL", u"art sky"_s);
+    }
+    void cleanup() { TearDown(); }
+
+    void JudgesWhatIsTyped_data()
+    {
+        QTest::addColumn<QString>("typed");  // < Backspace, $ Enter, ^ Escape, | Pause
+        QTest::addColumn<QString>("prompt"); // + right, - wrong, [] the mark
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("status");
+        QTest::addColumn<QString>("mistakes");
+        const auto row = [](const char *title, const QString &typed, const QString &prompt,
+                            const QString &input, const QString &status, const QString &mistakes) {
+            QTest::newRow(title) << typed << prompt + u' ' << input << status << mistakes;
+        };
+        row("nothing", {}, u"[a]B 1!"_s, {}, u"0KPM 0% 0 %"_s, {});
+        row("right", u"aB"_s, u"++[ ]1!"_s, u"aB"_s, u"0WPM 100% 0 %"_s, {});
+        row("the other case", u"Ab"_s, u"--[ ]1!"_s, u"Ab"_s, u"0WPM 0% 0 %"_s, u"01004101000100420100"_s);
+        row("a wrong space", u"aBx1"_s, u"++-+[!]"_s, u"aBx1"_s, u"60WPM 75% 50 %"_s, {});
+        row("a space too early", u"a "_s, u"+-[ ]1!"_s, u"a "_s, u"0WPM 50% 0 %"_s, u"0100420100"_s);
+        row("taken back", u"ax<B<<"_s, u"[a]B 1!"_s, {}, u"0WPM 66% 0 %"_s, u"0100420100"_s);
+        row("nothing to take back", u"<<a"_s, u"+[B] 1!"_s, u"a"_s, u"0WPM 100% 0 %"_s, {});
+        row("Enter and Escape", u"$a^$"_s, u"+[B] 1!"_s, u"a"_s, u"0WPM 100% 0 %"_s, {});
+        row("paused", u"a|B"_s, u"++[ ]1!"_s, u"aB"_s, u"0WPM 100% 0 %"_s, {});
+    }
+
+    void JudgesWhatIsTyped()
+    {
+        QFETCH(QString, typed);
+        WriteLesson("00.txt", u"Title\naB 1!"_s);
+        Open<frmEn_KeyTrain_Advanced>();
+        QCOMPARE(Text("labLessonMsg"), u"Title"_s);
+        TypeKeys(typed);
+        m_services->clock.Move(1);
+        QTEST(Looks("PromptRTB"), "prompt");
+        QTEST(Line("InputRTB")->Text(), "input");
+        QCOMPARE(Line("InputRTB")->Text().size(), Line("InputRTB")->Length());
+        const QStringList status = IsRunning() ? Status() : Shown();
+        QTEST(status.mid(1).join(u' '), "status");
+        Leave();
+        QTEST(QString::fromLatin1(Mistakes()), "mistakes");
+    }
+
+    void FillsTheBoxWithoutEverScrolling()
+    {
+        QString groups;
+        for (int i = 0; i < 40; ++i)
+            groups += u"Wij%1 "_s.arg(i);
+        WriteLesson("00.txt", u"Title\n"_s + groups + QString(120, u'W') + u" end"_s);
+        Open<frmEn_KeyTrain_Advanced>();
+        QStringList lines;
+        while (lines.join(QString()) != groups) {
+            lines += Line("PromptRTB")->Text();
+            for (int at = 0; at < lines.back().size(); ++at) {
+                QCOMPARE(Line("PromptRTB")->CellRect(0).left(), 6); // the padding
+                QCOMPARE(Line("PromptRTB")->Mark(), at);
+                if (at == lines.back().size() - 1)
+                    Press(Qt::Key_Return); // as good as the last space
+                else
+                    Type(lines.back().mid(at, 1));
+            }
+        }
+        QVERIFY(lines.size() > 3);
+        const int space = Line("PromptRTB")->width() - 12;
+        const QFontMetricsF metrics(Line("PromptRTB")->font());
+        for (qsizetype i = 1; i < lines.size(); ++i) {
+            const QString next = lines[i].section(u' ', 0, 0) + u' ';
+            QVERIFY(metrics.horizontalAdvance(lines[i - 1]) <= space);
+            QVERIFY(metrics.horizontalAdvance(lines[i - 1] + next) > space);
+        }
+        // Alone, and its end comes into sight when it is typed.
+        QCOMPARE(Line("PromptRTB")->Text(), QString(120, u'W') + u' ');
+        Type(QString(119, u'W'));
+        QVERIFY(Line("PromptRTB")->rect().contains(Line("PromptRTB")->CellRect(119)));
+        m_services->clock.Move(60);
+        QCOMPARE(Status(), QStringList({u"0:01:00"_s, u"40WPM"_s, u"100%"_s, u"95 %"_s}));
+        Leave();
+        QCOMPARE(Stored(u"KeyTrain_Index"_s), u"40"_s);
+    }
+
+    void OnlyKeysEdit()
+    {
+        Open<frmEn_KeyTrain_Advanced>();
+        for (const char *box : {"PromptRTB", "InputRTB"}) {
+            QTest::mouseClick(Part(box), Qt::LeftButton);
+            QTest::mouseDClick(Part(box), Qt::LeftButton);
+            QTest::mouseClick(Part(box), Qt::MiddleButton);
+            QTest::mouseClick(Part(box), Qt::RightButton);
+            QVERIFY(m_drill->hasFocus() && !QApplication::activePopupWidget());
+        }
+        QGuiApplication::clipboard()->setText(u"as"_s);
+        Press(Qt::Key_V, Qt::ControlModifier);
+        Press(Qt::Key_Insert, Qt::ShiftModifier);
+        Press(Qt::Key_Tab);
+        InputMethod(u"ni"_s, {});
+        QCOMPARE(Text("labPromptMsg"), u"Please switch to English input"_s);
+        InputMethod({}, u"你"_s);
+        QCOMPARE(Line("InputRTB")->Text(), QString());
+        InputMethod({}, u"a𝒳"_s); // committed without a composition
+        QCOMPARE(Looks("PromptRTB"), u"+-[ ]Df 1! x "_s);
+        QCOMPARE(Line("InputRTB")->Text(), u"a𝒳"_s);
+        QCOMPARE(Keyboard(), u"Next key: Space, thumb"_s);
+    }
+
+    void EndsWithAQuestion()
+    {
+        Open<frmEn_KeyTrain_Advanced>(u"2"_s);
+        InDialog();
+        Type(u"1!xyz"_s); // wrong to the end; Yes, and then no lesson is chosen
+        QCOMPARE(m_messages->texts.size(), 1);
+        QCOMPARE(Part("picProgress")->toolTip(), u"100 %"_s);
+        QVERIFY(!IsRunning());
+        TypeKeys(u"<<"_s);
+        QCOMPARE(Looks("PromptRTB"), u"++-[x] "_s);
+        m_messages->answer = Public_Function::MessageNo;
+        Type(u"x "_s);
+        QCOMPARE(m_messages->texts.back(), u"You have been completed the courses you selected\n"
+                                           "Continued to practice other courses?"_s);
+        QCOMPARE(Looks("PromptRTB"), u"[a]s Df 1! x "_s);
+        QCOMPARE(Shown(), QStringList({u"0:00:00"_s, u"0KPM"_s, u"0%"_s, u"0 %"_s}));
+        m_services->sound.TakePlayed();
+        Type(u"ax"_s);
+        QCOMPARE(m_services->sound.TakePlayed(), QStringList({u"Type.WAV"_s, u"Error.wav"_s}));
+    }
+
+    void LessonsAndDictionariesThatCannotBeLoaded()
+    {
+        WriteLesson("00.txt", u"Nothing"_s);
+        Store(u"WordTrain_FileName"_s, u"Missing"_s);
+        Store(u"WordTrain_Index"_s, u"7"_s);
+        Open<frmEn_KeyTrain_Advanced>(u"3"_s);
+        Type(u"ab"_s);
+        QVERIFY(!IsRunning());
+        Leave();
+        Open<frmEn_WordTrain>();
+        Type(u"ab"_s);
+        QVERIFY(!IsRunning());
+        Leave();
+        QCOMPARE(m_messages->texts, QStringList({u"Thesaurus data initialization failure\n"
+                                                 "Please choose other courses."_s,
+                                                 u"Thesaurus data initialize failure\n"
+                                                 "Please choose other file."_s}));
+        QCOMPARE(Stored(u"KeyTrain_Index"_s), u"3"_s); // kept until there is another
+        QCOMPARE(Stored(u"WordTrain_Index"_s), u"7"_s);
+    }
+
+    void ExplainsTheWordBeingTyped()
+    {
+        const QString art = u"art / ɑːt / n. made \"well\""_s;
+        const QString sky = u"sky n. blue"_s;
+        Store(u"WordTrain_ShowExplanation"_s, u"1"_s);
+        Open<frmEn_WordTrain>();
+        QCOMPARE(Text("labLessonMsg"), u"Typing Course \\ Word Drill -- TOEFL"_s);
+        QCOMPARE(State("picExplanation"), art);
+        QCOMPARE(Part("picExplanation")->toolTip(), u"<qt>"_s + art.toHtmlEscaped() + u"</qt>"_s);
+        Type(u"axt"_s);
+        QCOMPARE(State("picExplanation"), art);
+        Type(u" "_s);
+        QCOMPARE(State("picExplanation"), sky);
+        TypeKeys(u"<"_s);
+        QCOMPARE(State("picExplanation"), art);
+        Type(u" s"_s);
+        ChooseSettings(false);
+        QCOMPARE(State("picExplanation"), QString());
+        Type(u"k"_s);
+        ChooseSettings(true);
+        QCOMPARE(State("picExplanation"), sky);
+        m_services->clock.Move(0.4);
+        Type(u"y"_s);
+        QCOMPARE(Status(), QStringList({u"0:00:01"_s, u"60WPM"_s, u"87%"_s, u"50 %"_s}));
+        m_messages->answer = Public_Function::MessageNo;
+        Type(u" "_s);
+        QCOMPARE(m_messages->texts, QStringList(u"You have been completed all the words inTOEFL.\n"
+                                                "Continued to practice other thesaurus?"_s));
+        QCOMPARE(State("picExplanation"), art);
+        Press(Qt::Key_Return);
+        QCOMPARE(Line("InputRTB")->Text(), QString());
+        Leave();
+        QCOMPARE(
+            m_install->Read(u"Users/Ann/Setting.ini"_s).replace("\r\n", "|"),
+            QStringLiteral("[English]|WordTrain_ShowExplanation=1|WordTrain_Path=%1Data\\English\\T_Word\\"
+                           "Dictionary\\|WordTrain_FileName=TOEFL|WordTrain_DictionaryName=TOEFL|"
+                           "WordTrain_Index=0|[Main]|EnSound=0|")
+                .arg(Shared().InstallDir)
+                .toUtf8());
+        QCOMPARE(Shared().EnSound, 0);
+    }
+
+    void GoesOnWhereTheInstallFolderIsNow()
+    {
+        Store(u"WordTrain_Path"_s, u"C:\\Old\\Data\\English\\T_Word\\Dictionary\\"_s);
+        Store(u"WordTrain_Index"_s, u"5"_s);
+        Store(u"WordTrain_ShowExplanation"_s, u"1"_s);
+        Open<frmEn_WordTrain>();
+        QCOMPARE(Looks("PromptRTB"), u"[a]rt sky "_s);
+        QVERIFY(State("picExplanation").startsWith(u"art"_s));
+        Type(u"art "_s);
+        m_services->clock.Move(60);
+        QCOMPARE(Status().at(1), u"-4WPM"_s); // since the word that was stored
+    }
+
+    void TakesAnotherDictionary()
+    {
+        WriteDictionary("General/1000", u"new words"_s);
+        Store(u"WordTrain_ShowExplanation"_s, u"1"_s);
+        Open<frmEn_WordTrain>();
+        Type(u"art "_s);
+        ChooseDictionary(1);
+        QCOMPARE(m_messages->texts,
+                 QStringList(u"Thesaurus data initialization failure\nPlease choose other file."_s));
+        Type(u"s"_s);
+        QCOMPARE(Looks("PromptRTB"), u"+++++[k]y "_s);
+        ChooseDictionary(2);
+        QCOMPARE(Looks("PromptRTB"), u"[n]ew words "_s);
+        QCOMPARE(Text("labLessonMsg"), u"Typing Course \\ Word Drill -- Familiar word"_s);
+        QCOMPARE(State("picExplanation"), QString());
+        QVERIFY(!IsRunning());
+        ChooseSettings(true); // which cannot be chosen here
+        QCOMPARE(State("picExplanation"), QString());
+        Leave();
+        QCOMPARE(Stored(u"WordTrain_FileName"_s), u"1000"_s);
+        QCOMPARE(Stored(u"WordTrain_ShowExplanation"_s), u"0"_s);
+    }
+
+    void NamesTheInputMethod()
+    {
+        class Wubi final : public NoInputMethod
+        {
+            QString AskName(std::chrono::milliseconds) override { return u"Wubi"_s; }
+        } wubi;
+        PlatformServices().inputMethod = &wubi;
+        Open<frmEn_KeyTrain_Advanced>();
+        Press(Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(Text("labPromptMsg"), u"The current input methodWubi"_s);
+        Leave();
+        Open<frmEn_WordTrain>();
+        Press(Qt::Key_Shift, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(Text("labPromptMsg"), u"Current input method:Wubi"_s);
+    }
+
+private:
+    /// A dictionary that says something about "art" and "sky".
+    void WriteDictionary(const char *name, const QString &words)
+    {
+        const QString path = u"Data/English/T_Word/"_s + QLatin1StringView(name);
+        QByteArray list;
+        for (const QString &word : words.split(u' '))
+            list += ListRecord(word == u"art"_s ? 1 : 2, word.toUtf8(), 1);
+        m_install->Write(path + u".ID"_s, list);
+        WriteEntryFile(m_install->Native(path + u".Dat"_s),
+                       {{1, "&1 ɑːt\r\n% n. \n# made \"well\""}, {2, "% n. \n# blue"}});
+    }
+    void TypeKeys(const QString &keys)
+    {
+        static const QHash<QChar, Qt::Key> named{
+            {u'<', Qt::Key_Backspace}, {u'$', Qt::Key_Return}, {u'^', Qt::Key_Escape}, {u'|', Qt::Key_Pause}};
+        for (const QChar key : keys) {
+            if (named.contains(key))
+                Press(named[key]);
+            else
+                Type(QString(key));
+        }
+    }
+    TypingLine *Line(const char *name) const { return static_cast<TypingLine *>(Part(name)); }
+    QString Looks(const char *name) const
+    {
+        QString looks;
+        const std::u32string text = Line(name)->Text().toStdU32String();
+        for (int at = 0; at < Line(name)->Length(); ++at) {
+            const TypingLine::Look look = Line(name)->LookAt(at);
+            QString shown = QString::fromUcs4(&text[static_cast<std::size_t>(at)], 1);
+            if (look != TypingLine::Look::Untyped)
+                shown = look == TypingLine::Look::Right ? u"+"_s : u"-"_s;
+            looks += at == Line(name)->Mark() ? u'[' + shown + u']' : shown;
+        }
+        return looks;
+    }
+    /// Switches the sounds off too.
+    void ChooseSettings(bool explain)
+    {
+        InDialog([explain](QWidget *dialog) {
+            dialog->findChild<QRadioButton *>(u"opnSetting0"_s)->click();
+            auto *box = dialog->findChild<QCheckBox *>(u"chkShowExplanation"_s);
+            if (box->isChecked() != explain)
+                QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        Click("BtnSetting");
+    }
+    /// The first one of a class.
+    void ChooseDictionary(int classIndex)
+    {
+        InDialog([classIndex](QWidget *dialog) {
+            dialog->findChild<QComboBox *>(u"cbxClass"_s)->setCurrentIndex(classIndex);
+            QTest::keyClick(dialog->findChild<QListWidget *>(u"lstDictionary"_s), Qt::Key_Return);
+        });
+        Click("BtnSelectLesson");
+        QTest::qWait(0);
+    }
+};
+
+QTEST_MAIN(tst_LineDrills)
+#include "tst_LineDrills.moc"

@@ -7,6 +7,7 @@ from journey import Journey
 from screen import Gone
 
 DRILL = "Typing Course \\ Key Drill (Junior)"
+SENIOR_DRILL = "Typing Course \\ Key Drill (Senior)"
 AT_REST = "Input by the current key suggested"
 RUNNING = "Suspended by PAUSE/BREAK"
 COMPLETED = "You have been completed the courses you selected\nContinued to practice other courses?"
@@ -95,8 +96,8 @@ class FirstLesson(Journey):
         p.wait_active(DRILL)
         self.expect_caps("JJJ", 0)
         p.click("Key drill (senior)")
-
-        p.keys("Return")
+        p.wait_active(SENIOR_DRILL)
+        p.click("Key drill (junior)")
         p.wait_active(DRILL)
         p.keys("alt+F4")
         p.wait_active("Quorvex")

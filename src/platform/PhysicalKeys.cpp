@@ -7,14 +7,16 @@
 
 namespace {
 
-// The main block's codes are those that keyboards themselves send, on every system alike, from Escape (1) to
-// the space bar (57) and Caps Lock (58); 0 where the key is not of the main block.
-constexpr std::array<int, 59> MainBlock{
-    0,   0,   49, 50, 51, 52, 53, 54, 55, 56,  57,  48,  189, 187, 8, // digits
-    9,   81,  87, 69, 82, 84, 89, 85, 73, 79,  80,  219, 221, 13,     // Q to Enter
-    162, 65,  83, 68, 70, 71, 72, 74, 75, 76,  186, 222, 192,         // A to the quote, grave accent
-    160, 220, 90, 88, 67, 86, 66, 78, 77, 188, 190, 191, 161, 0,      // Shift to Shift
-    164, 32,  20};
+// The codes of the main block and of the keypad are those that keyboards themselves send, on every system
+// alike, from Escape (1) to the keypad's decimal key (83); 0 where the key is of neither. They are the
+// keypad's own also while Num Lock is off.
+constexpr std::array<int, 84> MainBlock{
+    0,   0,   49,  50,  51,  52,  53,  54,  55, 56,  57,  48,  189, 187, 8, // digits
+    9,   81,  87,  69,  82,  84,  89,  85,  73, 79,  80,  219, 221, 13,     // Q to Enter
+    162, 65,  83,  68,  70,  71,  72,  74,  75, 76,  186, 222, 192,         // A to the quote, grave accent
+    160, 220, 90,  88,  67,  86,  66,  78,  77, 188, 190, 191, 161, 106,    // Shift to Shift, keypad *
+    164, 32,  20,  0,   0,   0,   0,   0,   0,  0,   0,   0,   0,   0,   0, // to Scroll Lock
+    103, 104, 105, 109, 100, 101, 102, 107, 97, 98,  99,  96,  110};        // keypad 7 to the decimal key
 
 struct OutsideKey
 {
@@ -25,7 +27,8 @@ struct OutsideKey
 
 // Keys that came later than the main block have codes of each system's own.
 constexpr OutsideKey LaterKeys[]{
-    {97, 0x11D, 163}, {100, 0x138, 165}, {125, 0x15B, 91}, {126, 0x15C, 92}, {127, 0x15D, 93},
+    {97, 0x11D, 163}, {98, 0x135, 111}, {100, 0x138, 165},
+    {125, 0x15B, 91}, {126, 0x15C, 92}, {127, 0x15D, 93},
 };
 
 struct NamedKey

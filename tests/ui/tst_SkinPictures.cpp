@@ -1,4 +1,4 @@
-#include "core/drills/AnsiKeyboard.h"
+#include "core/drills/KeypadKeys.h"
 #include "platform/SqliteFile.h"
 #include "ui/speedtest/TestLayout.h"
 
@@ -40,6 +40,8 @@ private Q_SLOTS:
             {{64, 60}, 1, {"ICON_KEY_ON", "ICON_KEY_NORMAL"}},
             {{896, 276}, 1, {"KEYBOARD_NORMAL", "KEYBOARD_PROMPT", "KEYBOARD_PRESSED"}},
             {{704, 217}, 1, {"KEYBOARD_NORMAL_SMALL", "KEYBOARD_PROMPT_SMALL", "KEYBOARD_PRESSED_SMALL"}},
+            {{240, 276}, 1, {"KEYPAD_NORMAL", "KEYPAD_PROMPT", "KEYPAD_PRESSED"}},
+            {{186, 216}, 1, {"KEYPAD_NORMAL_SMALL", "KEYPAD_PROMPT_SMALL", "KEYPAD_PRESSED_SMALL"}},
         };
         for (const auto &[size, frames, names] : kinds) {
             for (const QByteArray &name : names) {
@@ -173,28 +175,38 @@ private Q_SLOTS:
     void KeysCanBeCutOutOfTheKeyboards()
     {
         using Size = AnsiKeyboard::Size;
-        for (const auto &[size, suffix, scale] : {std::tuple(Size::Large, QString(), 1),
-                                                  {Size::Large, QString(), 2},
-                                                  {Size::Small, u"_SMALL"_s, 1},
-                                                  {Size::Small, u"_SMALL"_s, 2}}) {
-            const QImage normal = Load(u"KEYBOARD_NORMAL"_s + suffix, scale);
-            const QImage prompt = Load(u"KEYBOARD_PROMPT"_s + suffix, scale);
-            const QImage pressed = Load(u"KEYBOARD_PRESSED"_s + suffix, scale);
-            QRegion ground(normal.rect());
-            for (int index = 0; index < AnsiKeyboard::Keys().size(); ++index) {
-                const QRect key = AnsiKeyboard::KeyRect(index, size);
-                const QRect at(key.topLeft() * scale, key.size() * scale);
-                const QList<QImage> looks{normal.copy(at), prompt.copy(at), pressed.copy(at)};
-                QVERIFY2(looks.lastIndexOf(looks[0]) == 0 && looks.lastIndexOf(looks[1]) == 1,
-                         qPrintable(AnsiKeyboard::Keys().at(index).name));
-                ground -= at;
+        for (const auto &[size, suffix] : {std::pair(Size::Large, QString()), {Size::Small, u"_SMALL"_s}}) {
+            QList<QRect> keys;
+            for (int index = 0; index < AnsiKeyboard::Keys().size(); ++index)
+                keys += AnsiKeyboard::KeyRect(index, size);
+            QList<QRect> keypad;
+            for (int index = 0; index < KeypadKeys::Keys().size(); ++index)
+                keypad += KeypadKeys::KeyRect(index, size);
+            for (const int scale : {1, 2}) {
+                CutOut(u"KEYBOARD_%1"_s + suffix, keys, scale);
+                CutOut(u"KEYPAD_%1"_s + suffix, keypad, scale);
             }
-            for (const QRect &at : ground)
-                QVERIFY(normal.copy(at) == prompt.copy(at) && normal.copy(at) == pressed.copy(at));
         }
     }
 
 private:
+    /// Every key differs in the three pictures; what lies between the keys does not.
+    void CutOut(const QString &name, const QList<QRect> &keys, int scale) const
+    {
+        const QImage normal = Load(name.arg(u"NORMAL"_s), scale);
+        const QImage prompt = Load(name.arg(u"PROMPT"_s), scale);
+        const QImage pressed = Load(name.arg(u"PRESSED"_s), scale);
+        QRegion ground(normal.rect());
+        for (const QRect &key : keys) {
+            const QRect at(key.topLeft() * scale, key.size() * scale);
+            const QList<QImage> looks{normal.copy(at), prompt.copy(at), pressed.copy(at)};
+            QVERIFY2(looks.lastIndexOf(looks[0]) == 0 && looks.lastIndexOf(looks[1]) == 1, qPrintable(name));
+            ground -= at;
+        }
+        for (const QRect &at : ground)
+            QVERIFY(normal.copy(at) == prompt.copy(at) && normal.copy(at) == pressed.copy(at));
+    }
+
     QImage Load(const QString &name, int scale) const
     {
         QImage image;

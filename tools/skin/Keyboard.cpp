@@ -31,12 +31,8 @@ public:
         : m_painter(painter)
         , m_theme(theme)
         , m_sizes(size == AnsiKeyboard::Size::Large ? u"keyboard.large."_s : u"keyboard.small."_s)
-        , m_color(theme.Color(state == KeyState::Prompt    ? u"keyboard.promptText"_s
-                              : state == KeyState::Pressed ? u"keyboard.pressedText"_s
-                                                           : u"keyboard.text"_s))
-        , m_quiet(theme.Color(state == KeyState::Prompt    ? u"keyboard.promptText"_s
-                              : state == KeyState::Pressed ? u"keyboard.pressedText"_s
-                                                           : u"keyboard.quietText"_s))
+        , m_color(LegendColorsOf(theme, state).text)
+        , m_quiet(LegendColorsOf(theme, state).quiet)
     {
     }
 
@@ -68,7 +64,7 @@ private:
                           QRectF(face.left(), face.bottom() - inset - small, face.width() - inset, small),
                           QString(key.plain), {small, false, m_quiet, Qt::AlignRight});
         if (key.plain == u'f' || key.plain == u'j')
-            DrawBump(face);
+            DrawBump(m_painter, face, m_color);
     }
 
     // Both boxes are as high as the capitals need, so that a comma keeps its place below the line.
@@ -95,12 +91,6 @@ private:
                 m_painter, face.adjusted(inset, 0, -inset, 0), LegendOf(key),
                 {Size(u"name"_s), false, m_color,
                  key.finger > Finger::Thumb || key.name == u"Right Alt"_s ? Qt::AlignRight : Qt::AlignLeft});
-    }
-
-    void DrawBump(const QRectF &face)
-    {
-        const QRectF bump(face.center().x() - 7, face.bottom() - 5, 14, 3);
-        Shapes::FillRounded(m_painter, bump, 1.5, m_color);
     }
 
     void DrawMetaSign(const QRectF &face)
@@ -130,15 +120,37 @@ private:
     QColor m_quiet;
 };
 
-QRectF DrawKeyBody(QPainter &painter, const Theme &theme, const AnsiKey &key, const QRectF &box,
-                   KeyState state)
+} // namespace
+
+QColor FingerTint(const Theme &theme, Finger finger)
+{
+    static const std::array<QString, 9> names{u"little"_s,    u"ring"_s,  u"middle"_s,
+                                              u"leftIndex"_s, u"thumb"_s, u"rightIndex"_s,
+                                              u"middle"_s,    u"ring"_s,  u"little"_s};
+    return theme.Color(u"finger."_s + names.at(static_cast<size_t>(finger)));
+}
+
+LegendColors LegendColorsOf(const Theme &theme, KeyState state)
+{
+    switch (state) {
+    case KeyState::Normal:
+        break;
+    case KeyState::Prompt:
+        return {theme.Color(u"keyboard.promptText"_s), theme.Color(u"keyboard.promptText"_s)};
+    case KeyState::Pressed:
+        return {theme.Color(u"keyboard.pressedText"_s), theme.Color(u"keyboard.pressedText"_s)};
+    }
+    return {theme.Color(u"keyboard.text"_s), theme.Color(u"keyboard.quietText"_s)};
+}
+
+QRectF DrawKeyBody(QPainter &painter, const Theme &theme, Finger finger, const QRectF &box, KeyState state)
 {
     KeyLook look{};
     look.radius = theme.Number(u"keyboard.radius"_s);
     look.lip = theme.Number(u"keyboard.lip"_s);
     switch (state) {
     case KeyState::Normal:
-        look.face = FingerTint(theme, key.finger);
+        look.face = FingerTint(theme, finger);
         look.edge = Shapes::Mix(look.face, theme.Color(u"keyboard.edge"_s), 0.45);
         look.border = theme.Color(u"keyboard.border"_s);
         break;
@@ -148,21 +160,17 @@ QRectF DrawKeyBody(QPainter &painter, const Theme &theme, const AnsiKey &key, co
         look.border = theme.Color(u"keyboard.promptBorder"_s);
         break;
     case KeyState::Pressed:
-        look.face = Shapes::Mix(FingerTint(theme, key.finger), theme.Color(u"keyboard.edge"_s), 0.5);
+        look.face = Shapes::Mix(FingerTint(theme, finger), theme.Color(u"keyboard.edge"_s), 0.5);
         look.border = theme.Color(u"keyboard.pressedBorder"_s);
         return DrawSunkenKey(painter, box, look, look.lip, theme.Color(u"keyboard.pressedShadow"_s));
     }
     return DrawKey(painter, box, look);
 }
 
-} // namespace
-
-QColor FingerTint(const Theme &theme, Finger finger)
+void DrawBump(QPainter &painter, const QRectF &face, const QColor &color)
 {
-    static const std::array<QString, 9> names{u"little"_s,    u"ring"_s,  u"middle"_s,
-                                              u"leftIndex"_s, u"thumb"_s, u"rightIndex"_s,
-                                              u"middle"_s,    u"ring"_s,  u"little"_s};
-    return theme.Color(u"finger."_s + names.at(static_cast<size_t>(finger)));
+    const QRectF bump(face.center().x() - 7, face.bottom() - 5, 14, 3);
+    Shapes::FillRounded(painter, bump, 1.5, color);
 }
 
 void DrawKeyboard(QPainter &painter, const Theme &theme, AnsiKeyboard::Size size, KeyState state)
@@ -174,7 +182,7 @@ void DrawKeyboard(QPainter &painter, const Theme &theme, AnsiKeyboard::Size size
     const QList<AnsiKey> &keys = AnsiKeyboard::Keys();
     for (int index = 0; index < keys.size(); ++index) {
         const QRectF box = AnsiKeyboard::KeyRect(index, size);
-        legends.Draw(keys.at(index), DrawKeyBody(painter, theme, keys.at(index), box, state));
+        legends.Draw(keys.at(index), DrawKeyBody(painter, theme, keys.at(index).finger, box, state));
     }
 }
 

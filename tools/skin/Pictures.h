@@ -22,6 +22,7 @@ void AddManagePages(PictureList &list, const Theme &theme);
 void AddManageTabs(PictureList &list, const Theme &theme);
 void AddKeyCaps(PictureList &list, const Theme &theme);
 void AddKeyboards(PictureList &list, const Theme &theme);
+void AddKeypads(PictureList &list, const Theme &theme);
 void AddHands(PictureList &list, const Theme &theme);
 
 /// The pictures that belong to the program itself, not to a skin.

@@ -61,6 +61,7 @@ PictureList MakeSkinPictures(const Theme &theme)
     AddManageTabs(list, theme);
     AddKeyCaps(list, theme);
     AddKeyboards(list, theme);
+    AddKeypads(list, theme);
     AddHands(list, theme);
     return list;
 }

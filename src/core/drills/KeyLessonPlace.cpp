@@ -11,6 +11,12 @@ KeyLessonSettings MainKeyLessonSettings()
     return {u"KeyTrain_FileName"_s, u"KeyTrain_Index"_s, u"Data\\English\\T_Character\\Standard\\00.txt"_s};
 }
 
+KeyLessonSettings KeypadLessonSettings()
+{
+    return {u"NumPadTrain_FileName"_s, u"NumpadTrain_Index"_s,
+            u"Data\\English\\T_Character\\Numpad\\00.txt"_s};
+}
+
 KeyLessonPlace LoadKeyLessonPlace(const KeyLessonSettings &settings)
 {
     const SettingFile file(Public_Function::SettingFilePath());

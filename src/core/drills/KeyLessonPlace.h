@@ -12,6 +12,8 @@ struct KeyLessonSettings
 
 /// The settings that the junior and the senior key drill share.
 KeyLessonSettings MainKeyLessonSettings();
+/// Those of the numeric keypad drill.
+KeyLessonSettings KeypadLessonSettings();
 
 /// Where a key drill goes on.
 struct KeyLessonPlace

@@ -7,9 +7,9 @@
 #include "ui/drills/frmEn_ArticleTrain.h"
 #include "ui/drills/frmEn_KeyTrain_Advanced.h"
 #include "ui/drills/frmEn_KeyTrain_Basic.h"
+#include "ui/drills/frmEn_NumPad.h"
 #include "ui/drills/frmEn_WordTrain.h"
 #include "ui/records/DlgHighScore.h"
-#include "ui/records/FrmUr_Manage.h"
 #include "ui/shell/DlgHelp.h"
 #include "ui/shell/Frm_Main.h"
 #include "ui/shell/ShowMessage.h"
@@ -69,10 +69,8 @@ bool AppNavigator::CanOpenDrill(DrillKind kind)
     case DrillKind::KeySenior:
     case DrillKind::Word:
     case DrillKind::Article:
-        return true;
     case DrillKind::Numpad:
-        SayNotYet(tr("The numeric keypad drill"));
-        break;
+        return true;
     }
     return false;
 }
@@ -111,6 +109,9 @@ void AppNavigator::OpenDrill(DrillKind kind, QWidget *instead)
     case DrillKind::Article:
         OpenPractice<frmEn_ArticleTrain>(instead, &frmEn_ArticleTrain::ShowDrill);
         break;
+    case DrillKind::Numpad:
+        OpenPractice<frmEn_NumPad>(instead, &frmEn_NumPad::ShowDrill);
+        break;
     default:
         OpenPractice<frmEn_KeyTrain_Basic>(instead, &frmEn_KeyTrain_Basic::ShowDrill);
     }
@@ -141,10 +142,8 @@ void AppNavigator::ShowTopList(QWidget *owner)
 
 bool AppNavigator::OpenPersonalRecords()
 {
-    // What is being practised is stored only when it ends.
-    if (IsBusy(nullptr))
-        return false;
-    return FrmUr_Manage(m_main).exec() == FrmUr_Manage::NewPlacementTest;
+    SayNotYet(tr("The page of your records"));
+    return false;
 }
 
 void AppNavigator::OfferPlacementTest()

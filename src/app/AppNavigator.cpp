@@ -10,6 +10,7 @@
 #include "ui/drills/frmEn_NumPad.h"
 #include "ui/drills/frmEn_WordTrain.h"
 #include "ui/records/DlgHighScore.h"
+#include "ui/records/FrmUr_Manage.h"
 #include "ui/shell/DlgHelp.h"
 #include "ui/shell/Frm_Main.h"
 #include "ui/shell/ShowMessage.h"
@@ -142,8 +143,10 @@ void AppNavigator::ShowTopList(QWidget *owner)
 
 bool AppNavigator::OpenPersonalRecords()
 {
-    SayNotYet(tr("The page of your records"));
-    return false;
+    // What is being practised is stored only when it ends.
+    if (IsBusy(nullptr))
+        return false;
+    return FrmUr_Manage(m_main).exec() == FrmUr_Manage::NewPlacementTest;
 }
 
 void AppNavigator::OfferPlacementTest()

@@ -34,7 +34,7 @@ private Q_SLOTS:
         };
         row("nothing", {}, u"[a]B 1!"_s, {}, u"0KPM 0% 0 %"_s, {});
         row("right", u"aB"_s, u"++[ ]1!"_s, u"aB"_s, u"0WPM 100% 0 %"_s, {});
-        row("the other case", u"Ab"_s, u"--[ ]1!"_s, u"Ab"_s, u"0WPM 0% 0 %"_s, u"01004101000100420100"_s);
+        row("the other case", u"Ab"_s, u"--[ ]1!"_s, u"Ab"_s, u"0WPM 0% 0 %"_s, u"01004201000100410100"_s);
         row("a wrong space", u"aBx1"_s, u"++-+[!]"_s, u"aBx1"_s, u"60WPM 75% 50 %"_s, {});
         row("a space too early", u"a "_s, u"+-[ ]1!"_s, u"a "_s, u"0WPM 50% 0 %"_s, u"0100420100"_s);
         row("taken back", u"ax<B<<"_s, u"[a]B 1!"_s, {}, u"0WPM 66% 0 %"_s, u"0100420100"_s);

@@ -9,9 +9,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// From a box's inside to the outer edge of its frame, and from there to the edge of the well.
+/// From a box's inside to the outer edge of its frame.
 constexpr int boxFrame = 2;
-constexpr int wellMargin = 8;
 
 void DrawBoxes(QPainter &painter, const Theme &theme, DisplayForm form)
 {
@@ -33,7 +32,8 @@ Picture MakeArticlePanel(const Theme &theme, const QString &name, DisplayForm fo
         const int last = ArticleLayout::BoxCount(form) - 1;
         const int top = ArticleLayout::Box(form, 0, true).top();
         const int bottom = ArticleLayout::Box(form, last, true).bottom() + 1;
-        const int margin = boxFrame + wellMargin;
+        // Ten boxes leave little room between the status row and the buttons below.
+        const int margin = boxFrame + (form == DisplayForm::LinePairs ? 4 : 8);
         Panel::DrawBody(painter, theme);
         Panel::DrawTitlePlate(painter, theme);
         Panel::DrawStatusRow(painter, theme, ArticleLayout::widePanelTop);
@@ -50,4 +50,5 @@ void AddArticlePanels(PictureList &list, const Theme &theme)
     list.append(MakeArticlePanel(theme, u"EN_ARTICLE_PAIRS_BACK"_s, DisplayForm::LinePairs));
     list.append(MakeArticlePanel(theme, u"EN_ARTICLE_PAGES_BACK"_s, DisplayForm::PageAndInput));
     list.append(MakeArticlePanel(theme, u"EN_ARTICLE_OVER_BACK"_s, DisplayForm::InPlace));
+    list.append(MakeArticlePanel(theme, u"BEGINTEST_BACK"_s, DisplayForm::PageAndInput));
 }

@@ -86,6 +86,11 @@ void ArticlePage::Build(DisplayForm form, const DrillLayout &layout)
     }
 }
 
+QFont ArticlePage::TextFont() const
+{
+    return PromptRow(0)->font();
+}
+
 LineMeasure ArticlePage::Measure() const
 {
     TypingLine *row = PromptRow(0);
@@ -197,8 +202,10 @@ void ArticlePage::ShowPosition(const ArticleSession &session, int line)
 {
     const bool current = session.CurrentLine() == line;
     PromptRow(line)->SetPosition(current ? session.Column() : -1, current);
-    if (TypingLine *input = InputRow(line))
+    if (TypingLine *input = InputRow(line)) {
         input->SetPosition(current ? input->Length() : -1, false);
+        input->SetCaret(current);
+    }
 }
 
 QRect ArticlePage::TypingArea(const ArticleSession &session) const

@@ -141,6 +141,8 @@ void frmEn_ArticleTrain::ChangeSettings()
     SetSoundMode(dialog.SoundEffect());
     ShowForm(DisplayFormOf(dialog.TrainMode()));
     UpdateStatus(false);
+    raise();
+    activateWindow();
 }
 
 QString frmEn_ArticleTrain::CompletionQuestion() const

@@ -32,12 +32,13 @@ Picture MakeArticlePanel(const Theme &theme, const QString &name, DisplayForm fo
         const int last = ArticleLayout::BoxCount(form) - 1;
         const int top = ArticleLayout::Box(form, 0, true).top();
         const int bottom = ArticleLayout::Box(form, last, true).bottom() + 1;
-        // Ten boxes leave little room between the status row and the buttons below.
-        const int margin = boxFrame + (form == DisplayForm::LinePairs ? 4 : 8);
+        // Ten boxes leave little room above the buttons.
+        const int marginAbove = boxFrame + 8;
+        const int marginBelow = boxFrame + (form == DisplayForm::LinePairs ? 4 : 8);
         Panel::DrawBody(painter, theme);
         Panel::DrawTitlePlate(painter, theme);
         Panel::DrawStatusRow(painter, theme, ArticleLayout::widePanelTop);
-        Panel::DrawWell(painter, theme, top - margin, bottom + margin, u"panel.keyCapWell"_s);
+        Panel::DrawWell(painter, theme, top - marginAbove, bottom + marginBelow, u"panel.keyCapWell"_s);
         DrawBoxes(painter, theme, form);
         Panel::DrawHintMark(painter, theme);
     });

@@ -9,10 +9,24 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr quint32 lengthMask = 0x7FFFFFFF;
+
 /// What no key, or only the space bar types.
 bool SeparatesWords(QChar character)
 {
+    if (character > u' ' && character <= u'~')
+        return false;
     return character.isSpace() || character.category() == QChar::Other_Control;
+}
+
+/// Whether a line may end between these two characters of a text without blanks: not inside a run of ASCII
+/// or a pair of surrogates, not before a closing mark, not after an opening one.
+bool IsBreakable(QChar before, QChar after)
+{
+    constexpr QStringView closing = u"，。、！？：；）》」』】〉”’…—％";
+    constexpr QStringView opening = u"（《「『【〈“‘";
+    const bool ascii = before < QChar(128) && after < QChar(128);
+    return !ascii && !after.isLowSurrogate() && !closing.contains(after) && !opening.contains(before);
 }
 
 /// As much of the text's start as fits into the box, at least one character.
@@ -31,7 +45,7 @@ QString CutToFit(const QString &text, const LineMeasure &measure)
 
 } // namespace
 
-bool Article::InitArticleData(const QString &fileName)
+bool Article::InitArticleData(const QString &fileName, Cut cut)
 {
     std::optional<QString> text = Public_Function::ReadTextFile(fileName);
     if (!text)
@@ -43,7 +57,7 @@ bool Article::InitArticleData(const QString &fileName)
     for (qsizetype start = 0; start < end;) {
         const qsizetype lineEnd =
             std::find_if(m_text.cbegin() + start, m_text.cend(), isLineEnd) - m_text.cbegin();
-        AddLine(start, lineEnd);
+        AddLine(start, lineEnd, cut);
         const bool two = lineEnd + 1 < end && m_text.at(lineEnd) == u'\r' && m_text.at(lineEnd + 1) == u'\n';
         start = lineEnd + (two ? 2 : 1);
     }
@@ -55,7 +69,7 @@ bool Article::InitArticleData(const QString &fileName)
     return hasWord;
 }
 
-void Article::AddLine(qsizetype start, qsizetype end)
+void Article::AddLine(qsizetype start, qsizetype end, Cut cut)
 {
     while (start < end) {
         if (SeparatesWords(m_text.at(start))) {
@@ -65,10 +79,37 @@ void Article::AddLine(qsizetype start, qsizetype end)
         qsizetype wordEnd = start + 1;
         while (wordEnd < end && !SeparatesWords(m_text.at(wordEnd)))
             ++wordEnd;
-        m_tokens.push_back({static_cast<quint32>(start), static_cast<quint32>(wordEnd - start)});
+        if (cut == Cut::Words)
+            AddWord(start, wordEnd);
+        else
+            AddCharacters(start, wordEnd);
         start = wordEnd;
     }
-    m_tokens.push_back({static_cast<quint32>(end), 0});
+    AddWord(end, end);
+}
+
+void Article::AddWord(qsizetype start, qsizetype end)
+{
+    m_tokens.push_back({static_cast<quint32>(start), static_cast<quint32>(end - start) & lengthMask, 0});
+}
+
+void Article::AddCharacters(qsizetype start, qsizetype end)
+{
+    while (start < end) {
+        qsizetype tokenEnd = start + 1;
+        while (tokenEnd < end && !IsBreakable(m_text.at(tokenEnd - 1), m_text.at(tokenEnd)))
+            ++tokenEnd;
+        AddWord(start, tokenEnd);
+        m_tokens.back().joinsNext = tokenEnd < end;
+        start = tokenEnd;
+    }
+}
+
+/// The token with the blank that follows it in the text.
+QString Article::WithBlank(int index) const
+{
+    const QString token = Token(index).left(MostCharacters + 1).toString();
+    return At(index).joinsNext ? token : token + u' ';
 }
 
 QStringView Article::Token(int index) const
@@ -89,16 +130,13 @@ std::u32string Article::BuildTextLine(int &index, const LineMeasure &measure) co
     SkipLineBreaks(index);
     if (index >= TokenCount())
         return {};
-    const QStringView first = Token(index++);
-    QString line = first.left(MostCharacters + 1).toString() + u' ';
+    QString line = WithBlank(index++);
     if (line.size() > MostCharacters || measure.widthOf(line) > measure.boxWidth)
         line = CutToFit(line.first(std::min<qsizetype>(line.size(), MostCharacters)), measure);
     while (index < TokenCount() && !IsLineBreak(index)) {
-        const QStringView next = Token(index);
-        if (line.size() + next.size() >= MostCharacters)
+        if (line.size() + Token(index).size() >= MostCharacters)
             break;
-        QString candidate = line;
-        candidate.append(next).append(u' ');
+        const QString candidate = line + WithBlank(index);
         if (measure.widthOf(candidate) >= measure.boxWidth)
             break;
         line = candidate;

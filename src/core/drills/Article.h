@@ -21,9 +21,16 @@ struct LineMeasure
 class Article
 {
 public:
+    enum class Cut {
+        Words,     ///< at blanks
+        Characters ///< at every character beyond ASCII too: Chinese has no blanks
+    };
+
     /// Reads a text file of any encoding and any line ends. False when it cannot be read, which changes
     /// nothing, or when it has no word; then no token is left.
-    bool InitArticleData(const QString &fileName);
+    bool InitArticleData(const QString &fileName, Cut cut = Cut::Words);
+
+    QStringView Text() const { return m_text; }
 
     int TokenCount() const { return static_cast<int>(m_tokens.size()); }
     bool IsLineBreak(int index) const { return At(index).length == 0; }
@@ -43,11 +50,15 @@ private:
     struct TextToken
     {
         quint32 start;
-        quint32 length; ///< 0 for a line break
+        quint32 length : 31;   ///< 0 for a line break
+        quint32 joinsNext : 1; ///< no blank follows in the text
     };
 
     const TextToken &At(int index) const { return m_tokens[static_cast<std::size_t>(index)]; }
-    void AddLine(qsizetype start, qsizetype end);
+    void AddLine(qsizetype start, qsizetype end, Cut cut);
+    void AddWord(qsizetype start, qsizetype end);
+    void AddCharacters(qsizetype start, qsizetype end);
+    QString WithBlank(int index) const;
     void SkipLineBreaks(int &index) const;
 
     QString m_text;

@@ -14,6 +14,8 @@
 #include "ui/shell/DlgHelp.h"
 #include "ui/shell/Frm_Main.h"
 #include "ui/shell/ShowMessage.h"
+#include "ui/speedtest/DlgUr_IfBeginTest.h"
+#include "ui/speedtest/Frm_BeginTest.h"
 #include "ui/speedtest/frmFreeType.h"
 #include "ui/speedtest/frmTest.h"
 
@@ -24,12 +26,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-void SayNotYet(const QString &what)
-{
-    Public_Function::ShowMessage(AppNavigator::tr("%1 is not in this version yet.").arg(what), u"Quorvex"_s,
-                                 MessageIcon::Information, MessageButtons::Ok);
-}
 
 void BringToFront(QWidget *window)
 {
@@ -63,19 +59,6 @@ void AppNavigator::ComeForward()
         BringToFront(dialog);
 }
 
-bool AppNavigator::CanOpenDrill(DrillKind kind)
-{
-    switch (kind) {
-    case DrillKind::KeyJunior:
-    case DrillKind::KeySenior:
-    case DrillKind::Word:
-    case DrillKind::Article:
-    case DrillKind::Numpad:
-        return true;
-    }
-    return false;
-}
-
 bool AppNavigator::IsBusy(const QWidget *instead)
 {
     if (!m_practice || m_practice == instead)
@@ -96,11 +79,14 @@ void AppNavigator::OpenPractice(QWidget *instead, Show show)
 
 void AppNavigator::OpenDrill(DrillKind kind, QWidget *instead)
 {
-    if (IsBusy(instead) || !CanOpenDrill(kind))
+    if (IsBusy(instead))
         return;
     if (Shared().EnSound != 0)
         PlatformServices().sound->WarmUp();
     switch (kind) {
+    case DrillKind::KeyJunior:
+        OpenPractice<frmEn_KeyTrain_Basic>(instead, &frmEn_KeyTrain_Basic::ShowDrill);
+        break;
     case DrillKind::KeySenior:
         OpenPractice<frmEn_KeyTrain_Advanced>(instead, &frmEn_KeyTrain_Advanced::ShowDrill);
         break;
@@ -113,8 +99,6 @@ void AppNavigator::OpenDrill(DrillKind kind, QWidget *instead)
     case DrillKind::Numpad:
         OpenPractice<frmEn_NumPad>(instead, &frmEn_NumPad::ShowDrill);
         break;
-    default:
-        OpenPractice<frmEn_KeyTrain_Basic>(instead, &frmEn_KeyTrain_Basic::ShowDrill);
     }
 }
 
@@ -151,7 +135,15 @@ bool AppNavigator::OpenPersonalRecords()
 
 void AppNavigator::OfferPlacementTest()
 {
-    SayNotYet(tr("The placement test"));
+    if (IsBusy(nullptr))
+        return;
+    DlgUr_IfBeginTest question(m_main);
+    question.exec();
+    if (question.ResultVal() != Public_Function::MessageYes || !m_main)
+        return;
+    auto *window = new Frm_BeginTest(*this, m_main);
+    m_practice = window;
+    window->ShowTest(question.IsEnglishTest());
 }
 
 void AppNavigator::ShowMainMenu()

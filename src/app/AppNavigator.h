@@ -19,7 +19,6 @@ public:
     /// A second copy was started: shows this one, with its open dialog on top.
     void ComeForward();
 
-    bool CanOpenDrill(DrillKind kind) override;
     void OpenDrill(DrillKind kind, QWidget *instead = nullptr) override;
     void OpenSpeedTest(QWidget *instead = nullptr) override;
     void OpenFreeTyping(QWidget *instead = nullptr) override;

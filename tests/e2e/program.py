@@ -102,9 +102,15 @@ class Program:
                    lambda: f"{name!r} to be {description!r}, where it is {self.see(name).description!r}")
 
     def log_in(self, name):
-        """Types a name into the login dialog and waits for the menu."""
+        """Types a name into the login dialog, wants no placement test and waits for the menu."""
         self.type(name)
         self.keys("Return")
+        self.refuse_placement_test(name)
+
+    def refuse_placement_test(self, name):
+        """Answers No to the question after a login, and waits for the menu."""
+        self.wait_active("Typing Speed Test")
+        self.keys("Escape")
         self.see(f"Username:{name}")
         self.wait_active("Quorvex")
 

@@ -12,7 +12,6 @@
 class FakeNavigator final : public Navigator
 {
 public:
-    bool CanOpenDrill(DrillKind) override { return drillsExist; }
     void OpenDrill(DrillKind kind, QWidget *instead) override
     {
         opened += kind;
@@ -28,7 +27,6 @@ public:
     void MinimizeAll() override { ++minimized; }
     void ShowHelp(QWidget *from) override { helpPages += from->objectName(); }
 
-    bool drillsExist = true;
     QList<DrillKind> opened;
     bool retest = false; ///< what the personal records are left with
     int placementTests = 0;

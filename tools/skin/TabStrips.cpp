@@ -42,6 +42,12 @@ TabRow TestTabs()
     return row;
 }
 
+/// One tab, which says where one is.
+TabRow PlacementTab()
+{
+    return {u"tabs.placementLabels"_s, {DrillTabs().shapes.first()}};
+}
+
 constexpr qreal stripBottom = Panel::tabStripHeight;
 
 QPainterPath TabPath(const TabShape &tab, qreal radius, qreal inset)
@@ -106,4 +112,5 @@ void AddTabStrips(PictureList &list, const Theme &theme)
               {u"EN_LABEL_KEY_B"_s, u"EN_LABEL_KEY_E"_s, u"EN_LABEL_WORD"_s, u"EN_LABEL_ARTICLE"_s});
     AddTabRow(list, theme, TestTabs(),
               {u"TEST_LABEL_NEIBU"_s, u"TEST_LABEL_WAIBU"_s, u"TEST_LABEL_TINGDA"_s});
+    AddTabRow(list, theme, PlacementTab(), {u"BEGINTEST_LABEL"_s});
 }

@@ -18,12 +18,9 @@ QStringList PlacementTexts::Candidates(TestMaterial::Language language)
     return files;
 }
 
-QString PlacementTexts::Choose(TestMaterial::Language language)
+qsizetype PlacementTexts::Choose(qsizetype count, TestMaterial::Language language)
 {
-    const QStringList files = Candidates(language);
-    if (files.isEmpty())
-        return {};
-    const qsizetype last = files.size() - (language == TestMaterial::Language::English && files.size() > 1);
-    std::uniform_int_distribution<qsizetype> any(0, last - 1);
-    return files.at(any(PlatformServices().random));
+    const bool leavesLast = language == TestMaterial::Language::English && count > 1;
+    std::uniform_int_distribution<qsizetype> any(0, count - (leavesLast ? 2 : 1));
+    return any(PlatformServices().random);
 }

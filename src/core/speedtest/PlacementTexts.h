@@ -8,8 +8,8 @@ namespace PlacementTexts {
 /// Full paths of all professional texts and articles of a language, folder by folder.
 QStringList Candidates(TestMaterial::Language language);
 
-/// One of the candidates, by the program's random generator; empty when there is none. Of several English
-/// texts never the last.
-QString Choose(TestMaterial::Language language);
+/// Which of so many candidates to take, by the program's random generator: of several English texts never
+/// the last. `count` must be above 0.
+qsizetype Choose(qsizetype count, TestMaterial::Language language);
 
 } // namespace PlacementTexts

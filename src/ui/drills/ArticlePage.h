@@ -2,6 +2,7 @@
 
 #include "core/drills/ArticleSession.h"
 
+#include <QFont>
 #include <QRect>
 #include <vector>
 
@@ -22,6 +23,8 @@ public:
 
     /// Makes the boxes anew, empty.
     void Build(DisplayForm form, const DrillLayout &layout);
+    /// The font that the boxes were made with.
+    QFont TextFont() const;
     /// Measures with the boxes' font, and leaves room for the return sign.
     LineMeasure Measure() const;
 

@@ -185,8 +185,6 @@ void DrillWindow::OnSetting()
 
 void DrillWindow::LeaveFor(DrillKind kind)
 {
-    if (!Leader().CanOpenDrill(kind))
-        return;
     StoreOnce();
     Leader().OpenDrill(kind, this);
 }

@@ -1,5 +1,6 @@
 #include "ui/shell/Frm_Main.h"
 
+#include "core/records/IUserRecord.h"
 #include "core/shell/Public_Define.h"
 #include "core/shell/UserSettings.h"
 #include "platform/Paths.h"
@@ -8,6 +9,7 @@
 #include "ui/shell/DlgUr_UserLogin.h"
 #include "ui/shell/Navigator.h"
 #include "ui/shell/ShowMessage.h"
+#include "ui/shell/StartProgram.h"
 #include "ui/skin/Fonts.h"
 #include "ui/skin/SkinLibrary.h"
 #include "ui/skin/StatusTexts.h"
@@ -73,9 +75,12 @@ Frm_Main::Frm_Main(Navigator &navigator)
         Shared().TestSource = 0;
         m_navigator.OpenSpeedTest();
     });
-    connect(XBtnJiaocheng, &SkinButton::clicked, this, [this] { StartProgram(u"Teach\\Teach.Exe"_s); });
-    connect(XBtnGameMissile, &SkinButton::clicked, this, [this] { StartProgram(u"game\\missile.Exe"_s); });
-    connect(XBtnGameRabbit, &SkinButton::clicked, this, [this] { StartProgram(u"game\\rabbit.Exe"_s); });
+    connect(XBtnJiaocheng, &SkinButton::clicked, this,
+            [] { Public_Function::StartShippedProgram(u"Teach\\Teach.Exe"_s); });
+    connect(XBtnGameMissile, &SkinButton::clicked, this,
+            [] { Public_Function::StartShippedProgram(u"game\\missile.Exe"_s); });
+    connect(XBtnGameRabbit, &SkinButton::clicked, this,
+            [] { Public_Function::StartShippedProgram(u"game\\rabbit.Exe"_s); });
     connect(XBtn_Gerenjilu, &SkinButton::clicked, this, [this] {
         if (EnsureUser() && m_navigator.OpenPersonalRecords())
             m_navigator.OfferPlacementTest();
@@ -222,8 +227,13 @@ void Frm_Main::UserLogin()
     Public_Function::LoadSoundSetting();
     Public_Function::LoadTestSetting();
     ShowUser();
-    if (chosen)
-        SayOnceIfReadOnly();
+    if (!chosen)
+        return;
+    SayOnceIfReadOnly();
+    IUserRecord record;
+    record.SetCurrentUser(Shared().CurrentUserName);
+    if (record.IfBeginTest())
+        m_navigator.OfferPlacementTest();
 }
 
 void Frm_Main::ShowUser()
@@ -244,15 +254,6 @@ bool Frm_Main::EnsureUser()
     if (!isLoggedIn())
         UserLogin();
     return isLoggedIn();
-}
-
-void Frm_Main::StartProgram(const QString &relativePath)
-{
-    const QString path = Public_Function::NativePath(Shared().InstallDir + relativePath);
-    if (!PlatformServices().launcher->Start(path)) {
-        Public_Function::ShowMessage(tr("This program could not be started:\n%1").arg(path), u"Quorvex"_s,
-                                     MessageIcon::Error, MessageButtons::Ok);
-    }
 }
 
 void Frm_Main::SayOnceIfReadOnly()

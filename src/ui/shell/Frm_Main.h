@@ -36,7 +36,6 @@ private:
     void ShowUser();
     /// Asks who types where nobody is logged in or that user's folder is gone; false when still nobody is.
     bool EnsureUser();
-    void StartProgram(const QString &relativePath);
     void SayOnceIfReadOnly();
 
     Navigator &m_navigator;

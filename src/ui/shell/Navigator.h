@@ -11,8 +11,6 @@ class Navigator
 public:
     virtual ~Navigator() = default;
 
-    /// Whether the drill exists yet; when not, a message says so.
-    virtual bool CanOpenDrill(DrillKind kind) = 0;
     /// Opens a drill over the main window and closes `instead`, if any, once the new one is shown.
     virtual void OpenDrill(DrillKind kind, QWidget *instead = nullptr) = 0;
     /// Opens the speed test of the shared `TestSource`; the rest as for a drill.

@@ -18,7 +18,7 @@ struct ModulePictures
     QLatin1StringView background;
 };
 
-constexpr std::array<ModulePictures, 24> Modules{{
+constexpr std::array<ModulePictures, 25> Modules{{
     {"EN_LABEL_KEY_B"_L1, "EN_KEY_BACK_B"_L1},
     {"EN_LABEL_KEY_E"_L1, "EN_KEY_BACK_E"_L1},
     {"EN_LABEL_WORD"_L1, "EN_WORD_BACK"_L1},
@@ -43,6 +43,7 @@ constexpr std::array<ModulePictures, 24> Modules{{
     {"TEST_LABEL_TINGDA"_L1, "TEST_DANHANG_BACK"_L1},
     {"TEST_LABEL_TINGDA"_L1, "TEST_DUIZHAO_BACK"_L1},
     {"TEST_LABEL_TINGDA"_L1, "TEST_FUGAI_BACK"_L1},
+    {"BEGINTEST_LABEL"_L1, "BEGINTEST_BACK"_L1},
 }};
 
 struct PlacedPicture

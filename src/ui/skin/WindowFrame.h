@@ -30,8 +30,11 @@ void TileMainGround(QPainter &painter, const QRect &rect, const SkinLibrary &lib
 /// What the ground is without a skin.
 inline constexpr QColor PlainGround{52, 66, 92};
 
+/// The kind of the placement test, which has no tabs to lead elsewhere.
+inline constexpr int PlacementTestKind = 24;
+
 /// Paints what lies in `exposed` of a drill or test window: the tiled ground, the module label and background
-/// of `kind` (0 to 23) at positions 0 and 1, and the four status icons at positions 2 to 5.
+/// of `kind` (0 to 24) at positions 0 and 1, and the four status icons at positions 2 to 5.
 void PaintDrillWindow(int kind, QPainter &painter, const QRegion &exposed, const QList<QPoint> &positions);
 
 /// True for Alt+F4, which arrives as a key press only where no window manager takes it.

@@ -115,6 +115,7 @@ void TypingBox::keyPressEvent(QKeyEvent *event)
     Q_EMIT KeyPressed();
     if (IsEnter(event)) {
         m_enterDown = true;
+        Q_EMIT EnterPressed();
         return;
     }
     if (event->key() == Qt::Key_Space)

@@ -33,6 +33,7 @@ Q_SIGNALS:
     /// Any key press, before what it does.
     void KeyPressed();
     void BackspacePressed();
+    void EnterPressed();
     /// A key was let go whose press was not taken by the input method (to choose a candidate, say).
     void EnterReleased();
     void SpaceReleased();

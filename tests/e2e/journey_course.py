@@ -1,0 +1,71 @@
+"""The typing course from drill to drill by tabs and the keypad switch, and what each of them stores."""
+
+import os
+
+from desktop import until
+from journey import Journey
+
+JUNIOR = "Typing Course \\ Key Drill (Junior)"
+KEYPAD = "Keyboard Training\\ Number Keyboard"
+SENIOR = "Typing Course \\ Key Drill (Senior)"
+WORD = "Typing Course \\ Word Drill"
+TEXT = "Typing Course \\ Text Drill"
+
+
+class Course(Journey):
+    def write(self, data, *names):
+        path = self.program.path("Data", "English", *names)
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "wb") as file:
+            file.write(data)
+
+    def test_five_drills_by_tabs(self):
+        p = self.program
+        self.write(b"Two groups\r\nfj FJ\r\n", "T_Character", "Standard", "00.txt")
+        self.write(b"Sums\r\n12+3 45\r\n", "T_Character", "Numpad", "00.txt")
+        self.write(b"One two.\r\n", "T_Article", "Adage", "1.txt")
+        p.open()
+        p.log_in("anna")
+        p.click("English typing")
+        p.wait_active(JUNIOR)
+
+        p.click("Numeric keypad")
+        p.wait_active(KEYPAD)
+        p.see("Sums", "label")
+        p.keys("KP_1", "KP_2")
+        p.described("Correct rate", "100%")
+        p.click("Main keyboard")
+        p.wait_active(JUNIOR)
+
+        p.click("Key drill (senior)")
+        p.wait_active(SENIOR)
+        p.described("Line to type", "fj FJ ")
+        p.type("fjx")
+        p.described("Typed so far", "fjx")
+        p.keys("BackSpace", "ctrl+v", "space")
+        p.described("Typed so far", "fj ")
+        p.described("Correct rate", "75%")
+
+        p.click("Word drill")
+        p.wait_active(WORD)
+        first = until(lambda: p.screen.find("Line to type").description.split(" ")[0], "a word")
+        p.type(first + " ")
+        p.described("Typed so far", first + " ")
+
+        p.click("Text drill")
+        p.wait_active(TEXT)
+        p.described("Text to copy", "One two.")
+        p.type("One")
+        p.described("Typed text", "One")
+        p.described("Correct rate", "100%")
+        p.keys("alt+F4")
+        p.wait_active("Quorvex")
+
+        settings = p.settings("anna")
+        self.assertTrue(settings["english", "numpadtrain_filename"].endswith("\\Numpad\\00.txt"))
+        self.assertEqual(settings["english", "keytrain_index"], "1")
+        self.assertEqual(settings["english", "wordtrain_filename"], "TOEFL")
+        self.assertEqual(settings["english", "wordtrain_index"], "1")
+        self.assertEqual(settings["english", "articletrain_index"], "0")
+        self.assertEqual(settings["english", "articletrain_formtype"], "4")
+        self.assertEqual(p.bytes("Users", "anna", "MistakeEN.Dat"), b"")

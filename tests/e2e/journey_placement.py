@@ -1,0 +1,48 @@
+"""The placement test from the login to the drill that it suggests."""
+
+import os
+import shutil
+
+from journey import Journey
+
+TEST = "Typing Speed Test"
+
+
+class Placement(Journey):
+    def only_text(self, text):
+        for kind in ("T_Article", "Professional"):
+            shutil.rmtree(self.program.path("Data", "English", kind))
+        os.makedirs(self.program.path("Data", "English", "T_Article", "Adage"))
+        with open(self.program.path("Data", "English", "T_Article", "Adage", "1.txt"), "wb") as file:
+            file.write(text)
+
+    def test_from_the_login_to_a_drill_and_never_asked_again(self):
+        p = self.program
+        self.only_text(b"A hut.\r\n")
+        p.open()
+        p.type("anna")
+        p.keys("Return")
+        p.wait_active(TEST, "dialog")
+        p.click("Don't display this dialog next time.", "check box")
+        p.click("Yes")
+        p.described("Text to copy", "A hut.")
+        p.type("A hux")
+        p.keys("Pause")
+        p.see("Suspended by PAUSE/BREAK", "label")
+        p.type("y")
+        p.keys("Pause", "BackSpace")
+        p.type("t.")
+        p.described("Typed text", "A hut.")
+        p.keys("Return")
+        p.wait_active("Suggestion")
+        p.keys("Return")
+        p.wait_gone("Suggestion")
+        self.assertEqual(p.settings("anna")["main", "begintest"], "0")
+        self.assertEqual(sorted(os.listdir(p.path("Users", "anna"))), ["Setting.ini"])
+        p.keys("alt+F4")
+        p.wait_active("Quorvex")
+
+        p.click("Change user")
+        p.wait_active("Login")
+        p.click("anna", "list item", times=2)
+        p.wait_active("Quorvex")

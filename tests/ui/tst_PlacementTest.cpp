@@ -1,0 +1,255 @@
+#include "core/records/IUserRecord.h"
+#include "core/speedtest/PlacementWords.h"
+#include "platform/ProgramLauncher.h"
+#include "support/Fakes.h"
+#include "support/SkinnedInstall.h"
+#include "ui/drills/ArticleBox.h"
+#include "ui/speedtest/DlgUr_BeginTestResult.h"
+#include "ui/speedtest/DlgUr_IfBeginTest.h"
+#include "ui/speedtest/Frm_BeginTest.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// Writes down what it was asked to start.
+struct NotedLauncher final : ProgramLauncher
+{
+    bool Start(const QString &nativePath) override
+    {
+        started += QFileInfo(nativePath).fileName();
+        return true;
+    }
+    QStringList started;
+};
+
+class tst_PlacementTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_services.emplace();
+        m_install.emplace(u"Ann"_s);
+        m_navigator.emplace();
+        m_messages.emplace();
+        PlatformServices().launcher = &m_launcher;
+        m_launcher.started.clear();
+    }
+    void cleanup() { delete m_window; }
+
+    void CountsWords()
+    {
+        for (const auto &[text, words] :
+             {std::pair(U"Hello, world.", 4), std::pair(U"Hello world", 1), std::pair(U"Hello world ", 2),
+              std::pair(U"\u4F60\u597D", 2), std::pair(U"a1 \u4F60b\U0001F600\r\n", 4), std::pair(U"", 0),
+              std::pair(U"don't (stop)\r\n", 6)})
+            QCOMPARE(Public_Function::CountWords(text), words);
+    }
+
+    void AsksAndCanBeForbidden()
+    {
+        struct Row
+        {
+            Qt::Key key;
+            bool chinese;
+            bool forbid;
+            qint16 result;
+        };
+        for (const auto &[key, chinese, forbid, result] :
+             {Row{Qt::Key_Return, false, false, 6}, Row{Qt::Key_Return, true, false, 6},
+              Row{Qt::Key_Escape, true, true, 7}}) {
+            DlgUr_IfBeginTest dialog(nullptr);
+            dialog.show();
+            QVERIFY(QTest::qWaitForWindowActive(&dialog));
+            if (chinese)
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+            auto *tick = dialog.findChild<QAbstractButton *>(u"ChkNotDisplay"_s);
+            if (forbid) {
+                tick->click();
+                tick->click(); // taken back, it stays forbidden
+            }
+            QTest::keyClick(&dialog, key);
+            QCOMPARE(dialog.ResultVal(), result);
+            QCOMPARE(dialog.IsEnglishTest(), key == Qt::Key_Escape || !chinese);
+            IUserRecord record;
+            record.SetCurrentUser(u"Ann"_s);
+            QCOMPARE(record.IfBeginTest(), !forbid);
+        }
+    }
+
+    void SaysWhatToPractise()
+    {
+        for (const auto &[english, speed, rate, text] :
+             {std::tuple(true, 30.F, 85.F, u"Speed30   Correct Rate85%|Suggestion:Type Word Training"_s),
+              std::tuple(false, 60.F, 90.F, u"Speed60   Correct Rate90%|Suggestion:Type Game Junior"_s),
+              std::tuple(true, 0.F, 0.F, u"Speed0   Correct Rate0%|Suggestion:Type Keyboard Training"_s)}) {
+            DlgUr_BeginTestResult dialog(english, nullptr);
+            dialog.SetSpeed_Veracity(speed, rate);
+            const auto label = [&dialog](const QString &name) {
+                return dialog.findChild<QLabel *>(name)->text();
+            };
+            QCOMPARE(label(u"LabResult"_s) + u'|' + label(u"LabSuggestion"_s), u"Result:\n\n    "_s + text);
+        }
+    }
+
+    void TypesAnEnglishText()
+    {
+        WriteText("English/T_Article/Adage/1.txt", "One, two.\r\n\r\nThree four\r\n");
+        Open(true);
+        QCOMPARE(Box(0), u"One, two.\nThree four\n\n"_s);
+        Type(u"One,"_s);
+        Press(Qt::Key_Return); // a space is expected
+        Type(u"tzz"_s);
+        Press(Qt::Key_Backspace);
+        Press(Qt::Key_Tab);
+        QCOMPARE(Box(1), u"One, tz\n\n\n"_s);
+
+        Press(Qt::Key_Pause);
+        QCOMPARE(Label("labPromptMsg"), u"Suspended by PAUSE/BREAK"_s);
+        m_services->clock.Move(100);
+        Type(u"x"_s);
+        QCOMPARE(Box(1), u"One, tz\n\n\n"_s);
+        Press(Qt::Key_Pause);
+        QCOMPARE(Label("labPromptMsg"), u"Input by the current key suggested"_s);
+        Type(u"o. "_s); // Space is Enter at the line's end
+        m_services->clock.Move(6);
+        QCOMPARE(Status(), u"0:00:06 40WPM 81% 66 %"_s);
+
+        // Twenty of the 22 were right; six words in ten seconds.
+        AtResult(Qt::Key_Escape);
+        Type(u"Three four"_s);
+        m_services->clock.Move(4);
+        Press(Qt::Key_Return);
+        QTRY_VERIFY(m_window.isNull());
+        QCOMPARE(m_result, u"Speed36   Correct Rate90%"_s);
+        QCOMPARE(m_navigator->menuShown, 1);
+        QCOMPARE(m_install->Entries(u"Users/Ann"_s), QStringList());
+    }
+
+    void TypesAChineseTextByAnInputMethod()
+    {
+        WriteText("Chinese/Professional/Law/1.txt", "\xE5\xB0\x8F\xE8\x88\xB9\xEF\xBC\x8C\xE5\xA5\xBD\r\n");
+        Open(false);
+        QCOMPARE(Box(0), u"小船，好\n\n\n"_s);
+        Compose(u"xiao"_s, {});
+        QCOMPARE(Box(1), u"\n\n\n"_s);
+        Compose({}, u"小传"_s);
+        Compose({}, u"，"_s);
+        QCOMPARE(Box(1), u"小传，\n\n\n"_s);
+        m_services->clock.Move(3);
+        AtResult(Qt::Key_Escape);
+        Click("XBtn_Finish");
+        QTRY_VERIFY(m_window.isNull());
+        QCOMPARE(m_result, u"Speed60   Correct Rate66%"_s);
+    }
+
+    void OpensWhatIsSuggested()
+    {
+        WriteText("English/T_Article/Adage/1.txt", "a b c d e f g h i j k l m n o p q r s t\r\n");
+        // The seconds that the text takes, and where that leads.
+        for (const auto &[seconds, drills, games] :
+             {std::tuple(120.0, QList{DrillKind::KeyJunior}, QStringList()),
+              std::tuple(48.0, QList{DrillKind::Word}, QStringList()),
+              std::tuple(3.0, QList<DrillKind>(), QStringList{u"Missile.exe"_s})}) {
+            m_navigator.emplace();
+            m_launcher.started.clear();
+            Open(true);
+            Type(u"a b c d e f g h i j k l m n o p q r s t"_s);
+            m_services->clock.Move(seconds);
+            AtResult(Qt::Key_Return);
+            Press(Qt::Key_Return);
+            QTRY_VERIFY(m_window.isNull());
+            QCOMPARE(m_navigator->opened, drills);
+            QCOMPARE(m_launcher.started, games);
+            QCOMPARE(m_navigator->menuShown, drills.isEmpty() ? 1 : 0);
+        }
+    }
+
+    void BeginsAgain()
+    {
+        WriteText("English/Professional/Law/1.txt", "Law\r\n");
+        Open(true);
+        Type(u"Laz"_s);
+        AtResult({}, "XBtnAgain");
+        Click("XBtn_Finish");
+        QCOMPARE(Box(1), u"\n\n\n"_s);
+        QCOMPARE(Status(), u"0:00:01 0WPM 0% 0 %"_s);
+    }
+
+    void SaysThatThereIsNoText()
+    {
+        WriteText("English/T_Article/Adage/1.txt", "\r\n \r\n");
+        m_window = new Frm_BeginTest(*m_navigator, &m_owner);
+        m_window->ShowTest(true);
+        QTRY_VERIFY(m_window.isNull());
+        QCOMPARE(m_messages->texts,
+                 QStringList{u"There is no test data, data restoration, or re-installe Quorvex."_s});
+        QCOMPARE(m_navigator->menuShown, 1);
+    }
+
+private:
+    void WriteText(const char *path, const QByteArray &text)
+    {
+        m_install->Write(u"Data/"_s + QLatin1StringView(path), text);
+    }
+    void Open(bool english)
+    {
+        m_window = new Frm_BeginTest(*m_navigator, &m_owner);
+        m_window->ShowTest(english);
+        QVERIFY(QTest::qWaitForWindowActive(m_window));
+    }
+    /// At the next result dialog notes its figures, then presses a key or a button.
+    void AtResult(std::optional<Qt::Key> key, const char *button = nullptr)
+    {
+        QTimer::singleShot(0, this, [this, key, button] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            m_result = dialog->findChild<QLabel *>(u"LabResult"_s)->text().section(u"\n    "_s, 1);
+            if (button)
+                dialog->findChild<QAbstractButton *>(QLatin1StringView(button))->click();
+            else
+                QTest::keyClick(dialog, *key);
+        });
+    }
+    void Type(const QString &text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+    void Press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+    void Click(const char *name)
+    {
+        QTest::mouseClick(m_window->findChild<QWidget *>(QLatin1StringView(name)), Qt::LeftButton);
+    }
+    static void Compose(const QString &preedit, const QString &commit)
+    {
+        QInputMethodEvent event(preedit, {});
+        event.setCommitString(commit);
+        QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
+    }
+    QString Box(int index) const
+    {
+        return m_window->findChild<ArticleBox *>(u"RTB"_s + QString::number(index))->Text();
+    }
+    QString Label(const char *name) const
+    {
+        return m_window->findChild<QLabel *>(QLatin1StringView(name))->text();
+    }
+    QString Status() const
+    {
+        QMetaObject::invokeMethod(m_window->findChild<QTimer *>(u"Timer1"_s), "timeout");
+        return QStringList{Label("labTime"), Label("labSpeed"), Label("labVeracity"),
+                           m_window->findChild<QWidget *>(u"picProgress"_s)->toolTip()}
+            .join(u' ');
+    }
+
+    std::optional<FakeServices> m_services;
+    std::optional<SkinnedInstall> m_install;
+    std::optional<FakeNavigator> m_navigator;
+    std::optional<FakeAnswers> m_messages;
+    NotedLauncher m_launcher;
+    QWidget m_owner;
+    QPointer<Frm_BeginTest> m_window;
+    QString m_result;
+};
+
+QTEST_MAIN(tst_PlacementTest)
+#include "tst_PlacementTest.moc"

@@ -2,6 +2,7 @@
 #include "support/Fakes.h"
 #include "support/SkinnedInstall.h"
 #include "ui/drills/frmEn_KeyTrain_Basic.h"
+#include "ui/drills/frmEn_NumPad.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -11,7 +12,26 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The junior key drill on a screen of 1024 x 768, with a lesson of 1,000 groups of eight keys.
+struct Junior
+{
+    using Window = frmEn_KeyTrain_Basic;
+    static constexpr char folder[] = "Standard";
+    static constexpr char keys[] = "asdfjkl;";
+    static constexpr char wrong = 'q';
+    static constexpr Qt::KeyboardModifiers modifiers = Qt::NoModifier;
+};
+
+struct Keypad
+{
+    using Window = frmEn_NumPad;
+    static constexpr char folder[] = "Numpad";
+    static constexpr char keys[] = "45678+9.";
+    static constexpr char wrong = '1';
+    static constexpr Qt::KeyboardModifiers modifiers = Qt::KeypadModifier;
+};
+
+/// A key drill on a screen of 1024 x 768, with a lesson of 1,000 groups of eight keys.
+template <typename Drill>
 class DrillUnderTest
 {
 public:
@@ -21,9 +41,10 @@ public:
         Shared().ScreenRect = QRect(0, 0, 1024, 768);
         QByteArray lesson("Bench\n");
         for (int i = 0; i < 1000; ++i)
-            lesson += "asdfjkl; ";
-        m_install.Write(u"Data/English/T_Character/Standard/00.txt"_s, lesson);
-        m_drill = std::make_unique<frmEn_KeyTrain_Basic>(m_navigator, nullptr);
+            lesson += QByteArray(Drill::keys) + ' ';
+        m_install.Write(u"Data/English/T_Character/%1/00.txt"_s.arg(QLatin1StringView(Drill::folder)),
+                        lesson);
+        m_drill = std::make_unique<typename Drill::Window>(m_navigator, nullptr);
         m_drill->setAttribute(Qt::WA_DeleteOnClose, false);
         m_drill->ShowDrill();
         QCoreApplication::processEvents();
@@ -32,12 +53,11 @@ public:
     /// Presses and releases the next key of the lesson, or a wrong one.
     void Press(bool right)
     {
-        static constexpr char keys[] = "asdfjkl;";
-        const QChar typed = right ? QChar::fromLatin1(keys[m_next++ % 8]) : QChar(u'q');
+        const QChar typed = QChar::fromLatin1(right ? Drill::keys[m_next++ % 8] : Drill::wrong);
         const int code = typed.toUpper().unicode();
-        QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier, QString(typed));
+        QKeyEvent press(QEvent::KeyPress, code, Drill::modifiers, QString(typed));
         QCoreApplication::sendEvent(m_drill.get(), &press);
-        QKeyEvent release(QEvent::KeyRelease, code, Qt::NoModifier, QString(typed));
+        QKeyEvent release(QEvent::KeyRelease, code, Drill::modifiers, QString(typed));
         QCoreApplication::sendEvent(m_drill.get(), &release);
     }
 
@@ -46,27 +66,31 @@ private:
     SkinnedInstall m_install;
     FakeNavigator m_navigator;
     FakeAnswers m_answers;
-    std::unique_ptr<frmEn_KeyTrain_Basic> m_drill;
+    std::unique_ptr<typename Drill::Window> m_drill;
     std::size_t m_next = 0;
 };
 
+template <typename Drill>
 void BM_JudgedKey(benchmark::State &state)
 {
-    DrillUnderTest drill;
+    DrillUnderTest<Drill> drill;
     for (auto _ : state)
         drill.Press(state.range(0) != 0);
 }
-BENCHMARK(BM_JudgedKey)->ArgName("right")->Arg(0)->Arg(1)->Iterations(4000);
+BENCHMARK_TEMPLATE(BM_JudgedKey, Junior)->ArgName("right")->Arg(0)->Arg(1)->Iterations(4000);
+BENCHMARK_TEMPLATE(BM_JudgedKey, Keypad)->ArgName("right")->Arg(0)->Arg(1)->Iterations(4000);
 
+template <typename Drill>
 void BM_JudgedKeyAndPaint(benchmark::State &state)
 {
-    DrillUnderTest drill;
+    DrillUnderTest<Drill> drill;
     for (auto _ : state) {
         drill.Press(state.range(0) != 0);
         QCoreApplication::processEvents();
     }
 }
-BENCHMARK(BM_JudgedKeyAndPaint)->ArgName("right")->Arg(0)->Arg(1)->Iterations(4000);
+BENCHMARK_TEMPLATE(BM_JudgedKeyAndPaint, Junior)->ArgName("right")->Arg(0)->Arg(1)->Iterations(4000);
+BENCHMARK_TEMPLATE(BM_JudgedKeyAndPaint, Keypad)->ArgName("right")->Arg(0)->Arg(1)->Iterations(4000);
 
 } // namespace
 

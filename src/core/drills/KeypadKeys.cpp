@@ -4,6 +4,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+// As on the main keyboard the left margin is the wider one: the keys are centred in the window's well.
 struct KeypadGeometry
 {
     QSize picture;
@@ -16,8 +17,8 @@ struct KeypadGeometry
 constexpr KeypadGeometry geometryOf(KeypadKeys::Size size)
 {
     if (size == KeypadKeys::Size::Large)
-        return {{240, 276}, {6, 13}, {57, 50}, 2, 2};
-    return {{186, 216}, {5, 8}, {44, 40}, 1, 2};
+        return {{240, 276}, {13, 13}, {57, 50}, 2, 2};
+    return {{186, 216}, {10, 8}, {44, 40}, 1, 2};
 }
 
 KeypadKey CharacterKey(char16_t character, Finger finger, int keyCode, int row, int column)

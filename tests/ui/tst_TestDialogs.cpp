@@ -42,7 +42,12 @@ static QList<int> PaintedHeights(ChartData::Kind kind, const QList<double> &valu
     Chart chart(u"chart"_s, u"Chart"_s, nullptr);
     chart.resize(500, 260);
     const QColor barColor(200, 10, 20);
-    chart.SetData({kind, {}, {}, {}, {}, {}, values, maximum, true, barColor, {}, {}});
+    ChartData data;
+    data.kind = kind;
+    data.values = values;
+    data.maximum = maximum;
+    data.color = barColor;
+    chart.SetData(data);
     const QImage image = chart.grab().toImage();
     QList<int> heights;
     for (int x = 0, last = 0; x < image.width(); ++x) {

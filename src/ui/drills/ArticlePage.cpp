@@ -16,20 +16,20 @@ namespace {
 constexpr char32_t returnSign = U'↵';
 constexpr int lineEndLength = 2; // CR LF
 
-using Line = ArticleSession::Line;
+using ArticleLine = ArticleSession::Line;
 
-const Line &LineOf(const ArticleSession &session, int line)
+const ArticleLine &LineOf(const ArticleSession &session, int line)
 {
     return session.Page()[static_cast<std::size_t>(line)];
 }
 
 /// The length of a line without its end.
-int TextLength(const Line &line)
+int TextLength(const ArticleLine &line)
 {
     return static_cast<int>(line.text.size()) - lineEndLength;
 }
 
-TypingLine::Look LookOf(const Line &line, int column)
+TypingLine::Look MarkLook(const ArticleLine &line, int column)
 {
     switch (line.marks[static_cast<std::size_t>(column)]) {
     case ArticleSession::Mark::Untyped:
@@ -42,11 +42,11 @@ TypingLine::Look LookOf(const Line &line, int column)
     return TypingLine::Look::Untyped;
 }
 
-std::vector<TypingLine::Look> LooksOf(const Line &line, std::size_t length)
+std::vector<TypingLine::Look> MarkLooks(const ArticleLine &line, std::size_t length)
 {
     std::vector<TypingLine::Look> looks;
     for (std::size_t column = 0; column < length; ++column)
-        looks.push_back(LookOf(line, static_cast<int>(column)));
+        looks.push_back(MarkLook(line, static_cast<int>(column)));
     return looks;
 }
 
@@ -140,11 +140,11 @@ void ArticlePage::ShowLine(const ArticleSession &session, int line)
             input->SetLine({});
         return;
     }
-    const Line &content = LineOf(session, line);
+    const ArticleLine &content = LineOf(session, line);
     const auto length = static_cast<std::size_t>(TextLength(content));
-    PromptRow(line)->SetLine(content.text.substr(0, length), LooksOf(content, length));
+    PromptRow(line)->SetLine(content.text.substr(0, length), MarkLooks(content, length));
     if (input)
-        input->SetLine(content.typed, LooksOf(content, content.typed.size()));
+        input->SetLine(content.typed, MarkLooks(content, content.typed.size()));
     ShowLineEnd(session, line);
     ShowPosition(session, line);
 }
@@ -169,24 +169,24 @@ void ArticlePage::ShowCharacter(const ArticleSession &session, int line, int col
 {
     if (line >= static_cast<int>(session.Page().size()))
         return;
-    const Line &content = LineOf(session, line);
+    const ArticleLine &content = LineOf(session, line);
     if (column >= TextLength(content))
         return;
     const auto at = static_cast<std::size_t>(column);
     TypingLine *prompt = PromptRow(line);
-    if (prompt->LookAt(column) != LookOf(content, column))
-        prompt->SetCharacter(column, content.text[at], LookOf(content, column));
+    if (prompt->LookAt(column) != MarkLook(content, column))
+        prompt->SetCharacter(column, content.text[at], MarkLook(content, column));
     TypingLine *input = InputRow(line);
     if (!input)
         return;
     input->Truncate(static_cast<int>(content.typed.size()));
     if (at < content.typed.size())
-        input->SetCharacter(column, content.typed[at], LookOf(content, column));
+        input->SetCharacter(column, content.typed[at], MarkLook(content, column));
 }
 
 void ArticlePage::ShowLineEnd(const ArticleSession &session, int line)
 {
-    const Line &content = LineOf(session, line);
+    const ArticleLine &content = LineOf(session, line);
     const int length = TextLength(content);
     const int column = session.CurrentLine() == line ? session.Column() : 0;
     // The line feed has a place of its own behind the sign while it is the one to type, or was typed wrong.
@@ -195,7 +195,7 @@ void ArticlePage::ShowLineEnd(const ArticleSession &session, int line)
     TypingLine *prompt = PromptRow(line);
     prompt->Truncate(length + shown);
     for (int i = 0; i < shown; ++i)
-        prompt->SetCharacter(length + i, i == 0 ? returnSign : U' ', LookOf(content, length + i));
+        prompt->SetCharacter(length + i, i == 0 ? returnSign : U' ', MarkLook(content, length + i));
 }
 
 void ArticlePage::ShowPosition(const ArticleSession &session, int line)

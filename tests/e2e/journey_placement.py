@@ -25,7 +25,7 @@ class Placement(Journey):
         p.wait_active(TEST, "dialog")
         p.click("Don't display this dialog next time.", "check box")
         p.click("Yes")
-        p.described("Text to copy", "A hut.")
+        p.described("Text to copy", "A hut.\n\n\n\nNext: A")
         p.type("A hux")
         p.keys("Pause")
         p.see("Suspended by PAUSE/BREAK", "label")

@@ -27,8 +27,8 @@ public:
         switch (kind) {
         case QAccessible::Value:
             return m_box->Text();
-        case QAccessible::Description:
-            return m_box->NextText();
+        case QAccessible::Description: // the one that screen readers are told of this role
+            return (m_box->Text() + u'\n' + m_box->NextText()).trimmed();
         default:
             return QAccessibleWidget::text(kind);
         }

@@ -52,7 +52,7 @@ void AddManageTabs(PictureList &list, const Theme &theme)
     const QList<std::pair<QString, Icon>> tabs{
         {u"BTN_UR_ZONGHE"_s, Icon::Chart},        {u"BTN_UR_MISTAKEJIANWEI"_s, Icon::Keyboard},
         {u"BTN_UR_MISTAKEHANZI"_s, Icon::Target}, {u"BTN_UR_ENGLISH"_s, Icon::Book},
-        {u"BTN_UR_PINYIN"_s, Icon::Steps},        {u"BTN_UR_WUBI"_s, Icon::Steps},
+        {u"BTN_UR_PINYIN"_s, Icon::Steps},        {u"BTN_UR_WUBI"_s, Icon::Gauge},
         {u"BTN_UR_EXAM"_s, Icon::Stopwatch},
     };
     for (const auto &[name, icon] : tabs)

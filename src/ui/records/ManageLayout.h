@@ -8,7 +8,7 @@
 namespace ManageLayout {
 
 constexpr QSize page(560, 372);
-constexpr int headerHeight = 30;
+constexpr int headerHeight = 28;
 constexpr int buttonTop = 332;
 constexpr int margin = 16;
 
@@ -23,10 +23,10 @@ constexpr std::array<int, 4> overviewTops{48, 78, 111, 141};
 // Pages of records: the chart, five rows below it, the buttons.
 constexpr int tenths = 10;
 constexpr int tenthHeight = 14;
-constexpr QRect recordPlot(30, 38, 480, tenths *tenthHeight);
+constexpr QRect recordPlot(30, 35, 480, tenths *tenthHeight);
 constexpr int rowHeight = 26;
 constexpr int rowBoxLeft = 16;
-constexpr int rowNumberLeft = 30;
+constexpr int rowNumberLeft = 33;
 constexpr int rowTextLeft = 55;
 constexpr int rowDateLeft = 460;
 constexpr int rowRight = 548;

@@ -32,7 +32,8 @@ void RecordsPage::MakeControls(const Names &names)
 {
     m_chart->SetPanel(false);
     m_chart->SetTextSize(8);
-    m_chart->setGeometry(1, ManageLayout::headerHeight + 2, width() - 2,
+    // It ends where the rows begin, so that turning a page does not paint it anew.
+    m_chart->setGeometry(1, ManageLayout::headerHeight, width() - 2,
                          ManageLayout::Row(0).top() - ManageLayout::headerHeight);
     QList<MarkBox *> boxes;
     for (int i = 0; i < TrainingHistory::RowsPerPage; ++i) {
@@ -77,14 +78,16 @@ void RecordsPage::ShowChart()
         return;
     ChartData chart;
     chart.emptyText = tr("No speed above 0");
-    chart.labels.reserve(amount);
+    QList<QDate> dates;
+    dates.reserve(amount);
     chart.values.reserve(amount);
-    const QLocale locale = QLocale::system();
     for (int i = 0; i < amount; ++i) {
-        const TrainingRecord &record = m_history.At(i);
-        chart.labels += locale.toString(record.Date, QLocale::ShortFormat);
-        chart.values += static_cast<double>(record.Speed);
+        dates += m_history.At(i).Date;
+        chart.values += static_cast<double>(m_history.At(i).Speed);
     }
+    chart.labelOf = [dates, locale = QLocale::system()](qsizetype i) {
+        return locale.toString(dates.at(i), QLocale::ShortFormat);
+    };
     chart.maximum = static_cast<double>(m_history.HighestSpeed());
     chart.scaleParts = ManageLayout::tenths;
     chart.places.plot = QRectF(ManageLayout::recordPlot.translated(-m_chart->pos()));

@@ -53,7 +53,7 @@ bool Chart::event(QEvent *event)
         event->ignore();
         return true;
     }
-    const QString label = m_data.labels.value(index);
+    const QString label = m_data.Label(index);
     QToolTip::showText(
         help->globalPos(),
         (label.isEmpty() ? QString() : label + u": "_s) + ChartScale::Text(m_data.values[index]), this);

@@ -5,6 +5,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <QStringList>
+#include <functional>
 
 /// Places for the parts of a chart on a page that has its own layout.
 struct ChartPlaces
@@ -36,6 +37,9 @@ struct ChartData
     QString barPicture; ///< of the skin, stretched to each bar
     ChartPlaces places; ///< empty: the chart lays itself out
 
+    std::function<QString(qsizetype)> labelOf; ///< instead of labels, where there are many and few are shown
+
+    QString Label(qsizetype index) const { return labelOf ? labelOf(index) : labels.value(index); }
     /// Every label with its value, for those who do not see the picture.
     QString Description() const;
 };

@@ -27,6 +27,13 @@ QString ReadableLabel(const QString &label)
     return label == QStringLiteral("\t") ? QStringLiteral("Tab") : label;
 }
 
+/// For the ground below a line.
+QColor Faint(QColor color)
+{
+    color.setAlpha(28);
+    return color;
+}
+
 bool BoxCrosses(const QRectF &box, const QPointF &from, const QPointF &to)
 {
     // Walking along the segment is exact enough for a text's box.
@@ -46,7 +53,7 @@ ChartPainter::ChartPainter(const ChartData &data, const QRectF &area, const QFon
     , m_font(font)
     , m_titleFont(font)
     , m_scale(data.scaleParts > 0 ? ChartScale::InParts(data.maximum, data.scaleParts)
-                             : ChartScale(data.maximum, 5, data.wholeNumbers))
+                                  : ChartScale(data.maximum, 5, data.wholeNumbers))
 {
     m_titleFont.setBold(true);
     PlacePlot();
@@ -174,20 +181,22 @@ void ChartPainter::PaintTitles(QPainter &painter) const
 
 void ChartPainter::PaintLabels(QPainter &painter) const
 {
+    const qsizetype count = m_data.values.size();
     qreal widest = 1;
     // Of very many labels some are as good as all, and measuring takes time.
-    const qsizetype step = m_data.labels.size() / 200 + 1;
-    for (qsizetype i = 0; i < m_data.labels.size(); i += step)
-        widest = qMax(widest, TextSize(ReadableLabel(m_data.labels[i])).width());
-    const qsizetype count = m_data.values.size();
+    const qsizetype step = count / 200 + 1;
+    for (qsizetype i = 0; i < count; i += step)
+        widest = qMax(widest, TextSize(ReadableLabel(m_data.Label(i))).width());
     const qreal width = SlotWidth() * qreal(count);
     const qsizetype most = qMax<qsizetype>(1, qsizetype(width / (widest + 8)));
     const auto stride = qMax<qsizetype>(
         1, qsizetype(ChartScale(double(count), static_cast<int>(most), true).Marks().value(1)));
-    const qreal top = m_plot.bottom() + ChartGap;
+    // A page with its own layout has its list close below the line.
+    const bool close = HasPlaces() && m_data.kind == ChartData::Kind::Line;
+    const qreal top = m_plot.bottom() + (close ? 1 : ChartGap);
     painter.setPen(ChartTextColor);
     for (qsizetype i = stride - 1; i < count; i += stride) {
-        const QString label = ReadableLabel(m_data.labels.value(i));
+        const QString label = ReadableLabel(m_data.Label(i));
         const QSizeF size = TextSize(label);
         // A label at the edge moves inwards rather than out of the picture.
         const qreal x = qMin(CentreOf(i) - size.width() / 2, m_area.right() - size.width() - 2);
@@ -228,16 +237,22 @@ void ChartPainter::PaintBars(QPainter &painter) const
 
 void ChartPainter::PaintLine(QPainter &painter) const
 {
-    const QPolygonF line = LinePoints();
-    if (line.isEmpty())
+    const qsizetype count = m_data.values.size();
+    if (count == 0)
         return;
-    QColor under = m_data.color;
-    under.setAlpha(28);
+    if (SlotWidth() < 1) {
+        PaintBand(painter);
+        return;
+    }
+    QPolygonF line;
+    line.reserve(count);
+    for (qsizetype i = 0; i < count; ++i)
+        line += PointOf(i);
     QPolygonF ground = line;
     ground += QPointF(line.constLast().x(), m_plot.bottom());
     ground += QPointF(line.constFirst().x(), m_plot.bottom());
     painter.setPen(Qt::NoPen);
-    painter.setBrush(under);
+    painter.setBrush(Faint(m_data.color));
     painter.drawPolygon(ground);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(m_data.color, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -250,26 +265,21 @@ void ChartPainter::PaintLine(QPainter &painter) const
         painter.drawEllipse(point, 3.5, 3.5);
 }
 
-QPolygonF ChartPainter::LinePoints() const
+void ChartPainter::PaintBand(QPainter &painter) const
 {
-    QPolygonF line;
-    const qsizetype count = m_data.values.size();
-    const bool each = SlotWidth() >= 1;
-    for (qsizetype i = 0; i < count; ++i) {
-        const QPointF point = PointOf(i);
-        // A column has two points at the most; a third one takes the place of one between the other two.
-        const qsizetype last = line.size() - 1;
-        const bool third = !each && last >= 1 && std::floor(line[last - 1].x()) == std::floor(point.x());
-        if (!third) {
-            line += point;
-            continue;
+    const QColor under = Faint(m_data.color);
+    for (qsizetype i = 0; i < m_data.values.size();) {
+        const qreal column = std::floor(PointOf(i).x());
+        // It begins where the column before it has ended.
+        qreal high = PointOf(qMax<qsizetype>(0, i - 1)).y();
+        qreal low = high;
+        for (; i < m_data.values.size() && std::floor(PointOf(i).x()) == column; ++i) {
+            high = qMin(high, PointOf(i).y());
+            low = qMax(low, PointOf(i).y());
         }
-        const auto [low, high] = std::minmax({line[last - 1].y(), line[last].y(), point.y()});
-        const bool rising = point.y() < line[last - 1].y();
-        line[last - 1].setY(rising ? high : low);
-        line[last] = QPointF(point.x(), rising ? low : high);
+        painter.fillRect(QRectF(column, high - 1, 1, low - high + 2), m_data.color);
+        painter.fillRect(QRectF(column, low + 1, 1, qMax(0.0, m_plot.bottom() - low - 1)), under);
     }
-    return line;
 }
 
 void ChartPainter::PaintBarValues(QPainter &painter) const
@@ -290,6 +300,17 @@ void ChartPainter::PaintBarValues(QPainter &painter) const
     }
 }
 
+bool ChartPainter::IsCrossed(const QRectF &box, qsizetype near) const
+{
+    const auto reach = static_cast<qsizetype>(box.width() / SlotWidth()) + 2;
+    const qsizetype last = qMin(near + reach, m_data.values.size() - 1);
+    for (qsizetype i = qMax<qsizetype>(0, near - reach); i < last; ++i) {
+        if (BoxCrosses(box, PointOf(i), PointOf(i + 1)))
+            return true;
+    }
+    return false;
+}
+
 void ChartPainter::PaintPointValues(QPainter &painter) const
 {
     // With this many points numbers say nothing any more.
@@ -297,17 +318,17 @@ void ChartPainter::PaintPointValues(QPainter &painter) const
         return;
     painter.setPen(ChartTitleColor);
     const qsizetype count = m_data.values.size();
-    QRectF before;
+    QList<QRectF> taken;
     for (qsizetype i = 0; i < count; ++i) {
         if (!(m_data.values[i] > 0))
             continue;
         const QPointF point = PointOf(i);
         const QSizeF size = TextSize(ChartScale::Text(m_data.values[i]));
         const auto isFree = [&](const QRectF &box) {
-            return !box.adjusted(-3, 0, 3, 0).intersects(before) && box.left() >= m_plot.left() + 2 &&
-                   box.right() <= m_area.right() - 2 && box.bottom() < m_plot.bottom() - 1 &&
-                   box.top() >= m_area.top() && (i == 0 || !BoxCrosses(box, PointOf(i - 1), point)) &&
-                   (i + 1 == count || !BoxCrosses(box, point, PointOf(i + 1)));
+            return std::none_of(taken.crbegin(), taken.crend(),
+                                [&](const QRectF &other) { return box.intersects(other); }) &&
+                   box.left() >= m_plot.left() + 2 && box.right() <= m_area.right() - 2 &&
+                   box.top() >= m_area.top() && box.bottom() < m_plot.bottom() - 1 && !IsCrossed(box, i);
         };
         const qreal up = -size.height() - 5;
         const qreal middle = -size.width() / 2;
@@ -321,6 +342,6 @@ void ChartPainter::PaintPointValues(QPainter &painter) const
         const QRectF place(point + *offset, size);
         painter.drawText(place.adjusted(0, 0, 2, 0), Qt::AlignLeft | Qt::AlignVCenter,
                          ChartScale::Text(m_data.values[i]));
-        before = place;
+        taken += place.adjusted(-3, 0, 3, 0);
     }
 }

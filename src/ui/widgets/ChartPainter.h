@@ -28,10 +28,12 @@ private:
     void PaintLine(QPainter &painter) const;
     void PaintBarValues(QPainter &painter) const;
     void PaintPointValues(QPainter &painter) const;
-    /// The line's points; of many days that share a column of pixels, the lowest and the highest.
-    QPolygonF LinePoints() const;
+    /// The line of more values than there are columns of pixels: from the lowest to the highest of each.
+    void PaintBand(QPainter &painter) const;
 
     void PlacePlot();
+    /// Whether a part of the line near this value runs through the box.
+    bool IsCrossed(const QRectF &box, qsizetype near) const;
     bool HasPlaces() const { return m_data.places.plot.isValid(); }
     qreal SlotWidth() const;
     qreal CentreOf(qsizetype index) const;

@@ -68,4 +68,4 @@ class Course(Journey):
         self.assertEqual(settings["english", "wordtrain_index"], "1")
         self.assertEqual(settings["english", "articletrain_index"], "0")
         self.assertEqual(settings["english", "articletrain_formtype"], "4")
-        self.assertEqual(p.bytes("Users", "anna", "MistakeEN.Dat"), b"\x01\x00j\x01\x00")
+        self.assertEqual(p.bytes("Users", "anna", "MistakeEN.Dat"), b"\x01\x00J\x01\x00")

@@ -14,7 +14,7 @@ struct KeypadGeometry
     int gapAfter;
 };
 
-constexpr KeypadGeometry geometryOf(KeypadKeys::Size size)
+constexpr KeypadGeometry GeometryOfKeypad(KeypadKeys::Size size)
 {
     if (size == KeypadKeys::Size::Large)
         return {{240, 276}, {13, 13}, {57, 50}, 2, 2};
@@ -71,12 +71,12 @@ const QList<KeypadKey> &KeypadKeys::Keys()
 
 QSize KeypadKeys::PictureSize(Size size)
 {
-    return geometryOf(size).picture;
+    return GeometryOfKeypad(size).picture;
 }
 
 QRect KeypadKeys::KeyRect(int index, Size size)
 {
-    const KeypadGeometry geometry = geometryOf(size);
+    const KeypadGeometry geometry = GeometryOfKeypad(size);
     const KeypadKey &key = Keys().at(index);
     const QPoint corner(key.column * geometry.pitch.width(), key.row * geometry.pitch.height());
     const QSize cells(key.width * geometry.pitch.width(), key.height * geometry.pitch.height());

@@ -42,7 +42,7 @@ void DrawWordPanel(QPainter &painter, const Theme &theme)
     Shapes::FillBordered(painter, QRectF(QPointF(64, 248), QPointF(763, 282)), 3,
                          theme.Color(u"panel.plate"_s), theme.Color(u"panel.wellBorder"_s));
     Panel::DrawStatusRow(painter, theme, 299);
-    Panel::DrawWell(painter, theme, 350, 638, u"keyboard.ground"_s);
+    Panel::DrawWell(painter, theme, 352, 638, u"keyboard.ground"_s);
     Panel::DrawHintMark(painter, theme);
 }
 

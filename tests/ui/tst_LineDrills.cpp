@@ -97,6 +97,26 @@ private Q_SLOTS:
         QCOMPARE(Stored(u"KeyTrain_Index"_s), u"40"_s);
     }
 
+    void LeavesNoTracesOfFormerColours()
+    {
+        WriteLesson("00.txt", u"Title\njfj fjf jyf"_s);
+        Open<frmEn_KeyTrain_Advanced>();
+        const auto look = [this] {
+            QTest::qWait(20);
+            return m_drill->screen()->grabWindow(m_drill->winId()).toImage();
+        };
+        look();
+        for (const QString &keys : {u"j"_s, u"fj"_s, u"qfx"_s, u"<<"_s}) {
+            TypeKeys(keys);
+            const QImage left = look();
+            QVERIFY(!left.isNull());
+            m_drill->repaint();
+            Line("PromptRTB")->repaint();
+            Line("InputRTB")->repaint();
+            QVERIFY2(left == look(), qPrintable(keys));
+        }
+    }
+
     void OnlyKeysEdit()
     {
         Open<frmEn_KeyTrain_Advanced>();

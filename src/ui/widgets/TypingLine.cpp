@@ -138,7 +138,7 @@ void TypingLine::SetCharacter(int position, char32_t character, Look look)
     m_stale = true;
     const QRect after = CellRect(position);
     if (added || before.width() == after.width())
-        update(before | after);
+        UpdateCells(before | after);
     else
         UpdateFrom(before.left());
 }
@@ -173,12 +173,24 @@ void TypingLine::SetCaret(bool shown)
 void TypingLine::UpdatePlace()
 {
     if (m_marked || m_caret)
-        update(CellRect(m_position));
+        UpdateCells(CellRect(m_position));
+}
+
+/// How far a character reaches into its neighbours' places, as the hook of a j does.
+int TypingLine::Overhang() const
+{
+    return fontMetrics().height() / 8 + 1;
+}
+
+void TypingLine::UpdateCells(const QRect &cells)
+{
+    if (!cells.isNull())
+        update(cells.adjusted(-Overhang(), 0, Overhang(), 0));
 }
 
 void TypingLine::UpdateFrom(int left)
 {
-    update(QRect(QPoint(qMax(0, left), 0), rect().bottomRight()));
+    update(QRect(QPoint(qMax(0, left - Overhang()), 0), rect().bottomRight()));
 }
 
 void TypingLine::Follow()

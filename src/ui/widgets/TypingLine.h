@@ -60,6 +60,8 @@ private:
     int ShownEnd() const { return m_first + static_cast<int>(m_offsets.size()) - 1; }
     qreal LeftOf(int position) const;
     int CellMargin() const;
+    int Overhang() const;
+    void UpdateCells(const QRect &cells);
     void UpdateFrom(int left);
     void UpdatePlace();
     void Follow();

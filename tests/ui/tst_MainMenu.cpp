@@ -75,6 +75,11 @@ private Q_SLOTS:
         Shared().TestSource = 2;
         Press(u"XBtnTest"_s);
         QCOMPARE(Shared().TestSource, 0);
+        for (const bool retest : {false, true}) {
+            m_navigator->retest = retest;
+            Press(u"XBtn_Gerenjilu"_s);
+            QCOMPARE(m_navigator->placementTests, int(retest));
+        }
         Press(u"XBtn_Sys_Help"_s);
         QCOMPARE(m_navigator->helpPages, QStringList{u"Frm_Main"_s});
 

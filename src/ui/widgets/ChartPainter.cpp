@@ -335,9 +335,11 @@ void ChartPainter::PaintPointValues(QPainter &painter) const
         const qreal left = -size.width() - 2;
         const std::array<QPointF, 6> offsets{QPointF(middle, up), {middle, 5}, {left, up}, {2, up},
                                              {left, 5},           {2, 5}};
-        const auto offset = std::find_if(offsets.cbegin(), offsets.cend(),
+        // Where points are close together, a value beside its point would seem to be its neighbour's.
+        const auto last = size.width() > SlotWidth() ? offsets.cbegin() + 2 : offsets.cend();
+        const auto offset = std::find_if(offsets.cbegin(), last,
                                          [&](const QPointF &by) { return isFree(QRectF(point + by, size)); });
-        if (offset == offsets.cend())
+        if (offset == last)
             continue;
         const QRectF place(point + *offset, size);
         painter.drawText(place.adjusted(0, 0, 2, 0), Qt::AlignLeft | Qt::AlignVCenter,

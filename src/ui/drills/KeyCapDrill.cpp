@@ -93,14 +93,11 @@ DrillCounts KeyCapDrill::Counts() const
 
 void KeyCapDrill::SelectLesson()
 {
-    const auto file =
-        KeyLessonDialogs::ChooseLesson(this, [this](DlgEn_KeyLesson &dialog) { FillLessonList(dialog); });
+    const auto file = KeyLessonDialogs::ChooseLesson(
+        this, [this](DlgEn_KeyLesson &dialog) { FillLessonList(dialog); },
+        [this](const QString &lesson) { return InitKeyData(lesson); });
     if (!file)
         return;
-    if (!InitKeyData(*file)) {
-        ReportLoadFailure(KeyLessonDialogs::LoadFailureText());
-        return;
-    }
     m_lessonFile = *file;
     RestartLesson();
 }

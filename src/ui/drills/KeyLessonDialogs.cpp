@@ -2,6 +2,7 @@
 
 #include "ui/drills/DlgEn_KeyLesson.h"
 #include "ui/drills/DlgEn_KeyTrainSetting.h"
+#include "ui/shell/ShowMessage.h"
 
 #include <QPointer>
 
@@ -13,7 +14,8 @@ QString KeyLessonDialogs::LoadFailureText()
 }
 
 std::optional<QString> KeyLessonDialogs::ChooseLesson(QWidget *drill,
-                                                      const std::function<void(DlgEn_KeyLesson &)> &fill)
+                                                      const std::function<void(DlgEn_KeyLesson &)> &fill,
+                                                      const std::function<bool(const QString &)> &load)
 {
     DlgEn_KeyLesson dialog(drill);
     fill(dialog);
@@ -21,7 +23,11 @@ std::optional<QString> KeyLessonDialogs::ChooseLesson(QWidget *drill,
     dialog.exec();
     if (!self || dialog.ReturnValue() != DialogAnswer::Confirmed)
         return std::nullopt;
-    return dialog.LessonFile();
+    if (load(dialog.LessonFile()))
+        return dialog.LessonFile();
+    Public_Function::ShowMessage(LoadFailureText(), u"Quorvex"_s, MessageIcon::Information,
+                                 MessageButtons::Ok);
+    return std::nullopt;
 }
 
 std::optional<int> KeyLessonDialogs::ChooseSound(QWidget *drill, int mode)

@@ -56,13 +56,10 @@ void frmEn_KeyTrain_Advanced::LoadTrainData()
 
 void frmEn_KeyTrain_Advanced::SelectLesson()
 {
-    const auto file = KeyLessonDialogs::ChooseLesson(this, &DlgEn_KeyLesson::ShowKeyLesson);
+    const auto file = KeyLessonDialogs::ChooseLesson(
+        this, &DlgEn_KeyLesson::ShowKeyLesson, [this](const QString &lesson) { return InitKeyData(lesson); });
     if (!file)
         return;
-    if (!InitKeyData(*file)) {
-        ReportLoadFailure(KeyLessonDialogs::LoadFailureText());
-        return;
-    }
     m_lessonFile = *file;
     RestartLesson();
 }

@@ -15,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int SidePadding = 6;
-constexpr int CaretWidth = 2;
+constexpr int LineCaretWidth = 2;
 constexpr int MostLaidOut = 256; ///< more than the widest box holds of the narrowest letters
 constexpr int KeptBehind = 10;   ///< characters in sight before the typing position after the view has moved
 constexpr int KeptAhead = 3;     ///< and at least behind it before it moves
@@ -49,7 +49,7 @@ bool IsBlank(char32_t character)
 }
 
 /// A line break inside the line, or another control character, is drawn as a space.
-QString Drawn(char32_t character)
+QString DrawnForm(char32_t character)
 {
     const QChar::Category kind = QChar::category(character);
     const bool blank =
@@ -105,7 +105,7 @@ bool TypingLine::Fits(const std::u32string &text) const
 {
     QString drawn;
     for (const char32_t character : text)
-        drawn += Drawn(character);
+        drawn += DrawnForm(character);
     return QFontMetricsF(font()).horizontalAdvance(drawn) <= width() - 2 * SidePadding;
 }
 
@@ -241,7 +241,7 @@ void TypingLine::EnsureLayout()
     m_offsets.clear();
     for (int i = m_first; i < end; ++i) {
         m_offsets.push_back(static_cast<int>(shown.size()));
-        shown += Drawn(m_text[static_cast<std::size_t>(i)]);
+        shown += DrawnForm(m_text[static_cast<std::size_t>(i)]);
     }
     m_offsets.push_back(static_cast<int>(shown.size()));
     m_laidOutSoFar += end - m_first;
@@ -299,7 +299,7 @@ void TypingLine::paintEvent(QPaintEvent *event)
     }
     if (m_caret && m_position >= 0) {
         const QRect cell = CellRect(m_position).adjusted(0, CellMargin(), 0, -CellMargin());
-        painter.fillRect(cell.left(), cell.top(), CaretWidth, cell.height(), QColor(40, 46, 58));
+        painter.fillRect(cell.left(), cell.top(), LineCaretWidth, cell.height(), QColor(40, 46, 58));
     }
     if (m_layout.lineCount() == 0)
         return;

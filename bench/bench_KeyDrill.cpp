@@ -1,3 +1,4 @@
+#include "WindowBenchmarks.h"
 #include "core/shell/Public_Define.h"
 #include "support/Fakes.h"
 #include "support/SkinnedInstall.h"
@@ -6,7 +7,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <benchmark/benchmark.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -96,12 +96,5 @@ BENCHMARK_TEMPLATE(BM_JudgedKeyAndPaint, Keypad)->ArgName("right")->Arg(0)->Arg(
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    // The benchmarks lie in bench/ beside the folder that the build has assembled.
-    if (!qEnvironmentVariableIsSet("QUORVEX_INSTALL"))
-        qputenv("QUORVEX_INSTALL", QFile::encodeName(app.applicationDirPath() + "/../install"_L1));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return RunWindowBenchmarks(argc, argv);
 }

@@ -1,3 +1,4 @@
+#include "WindowBenchmarks.h"
 #include "core/shell/Public_Define.h"
 #include "core/shell/SettingFile.h"
 #include "core/shell/UserSettings.h"
@@ -9,7 +10,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <benchmark/benchmark.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -123,12 +123,5 @@ BENCHMARK(BM_LineKeyAndPaint)->Apply(Drills);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    // The benchmarks lie in bench/ beside the folder that the build has assembled.
-    if (!qEnvironmentVariableIsSet("QUORVEX_INSTALL"))
-        qputenv("QUORVEX_INSTALL", QFile::encodeName(app.applicationDirPath() + "/../install"_L1));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return RunWindowBenchmarks(argc, argv);
 }

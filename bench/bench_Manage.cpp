@@ -1,3 +1,4 @@
+#include "WindowBenchmarks.h"
 #include "core/records/RecordFile.h"
 #include "support/Fakes.h"
 #include "support/SkinnedInstall.h"
@@ -5,7 +6,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <benchmark/benchmark.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -96,12 +96,5 @@ BENCHMARK(BM_PageDown)->Unit(benchmark::kMillisecond)->Iterations(1000);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    // The benchmarks lie in bench/ beside the folder that the build has assembled.
-    if (!qEnvironmentVariableIsSet("QUORVEX_INSTALL"))
-        qputenv("QUORVEX_INSTALL", QFile::encodeName(app.applicationDirPath() + "/../install"_L1));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return RunWindowBenchmarks(argc, argv);
 }

@@ -9,22 +9,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString KeyOf(Frame frame)
-{
-    switch (frame) {
-    case Frame::Hovered:
-        return u"hovered"_s;
-    case Frame::Pressed:
-        return u"pressed"_s;
-    case Frame::Disabled:
-        return u"disabled"_s;
-    case Frame::Normal:
-    case Frame::Focused:
-        break;
-    }
-    return u"normal"_s;
-}
-
 /// The colours of one style of button in one state: "button.<style>.<state>.face", ".border", ".text".
 struct ButtonLook
 {
@@ -34,7 +18,7 @@ struct ButtonLook
 
     ButtonLook(const Theme &theme, const QString &style, Frame frame)
     {
-        const QString key = u"button.%1.%2."_s.arg(style, KeyOf(frame));
+        const QString key = u"button.%1.%2."_s.arg(style, NameOf(frame));
         face = theme.Color(key + u"face"_s);
         border = theme.Color(key + u"border"_s);
         text = theme.Color(key + u"text"_s);
@@ -90,7 +74,7 @@ Picture MakeMenuButton(const Theme &theme, const QString &name, const QString &l
         const ButtonLook look(theme, u"menu"_s, frame);
         DrawButtonBody(painter, size, look, frame, theme);
         const qreal sink = frame == Frame::Pressed ? 1 : 0;
-        const QColor iconColor = theme.Color(u"button.menu.%1.icon"_s.arg(KeyOf(frame)));
+        const QColor iconColor = theme.Color(u"button.menu.%1.icon"_s.arg(NameOf(frame)));
         if (frame == Frame::Hovered)
             Shapes::FillRounded(painter, QRectF(6, 10, 3, size.height() - 20), 1.5,
                                 theme.Color(u"palette.accent"_s));

@@ -10,26 +10,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString StateKey(Frame frame)
-{
-    switch (frame) {
-    case Frame::Hovered:
-        return u"manage.tab.hovered."_s;
-    case Frame::Pressed:
-        return u"manage.tab.pressed."_s;
-    case Frame::Disabled:
-        return u"manage.tab.disabled."_s;
-    default:
-        return u"manage.tab.normal."_s;
-    }
-}
-
 // The tab of the page that is shown stays pressed: that frame is the lit one.
 Picture MakeTab(const Theme &theme, const QString &name, Icon icon)
 {
     const QSize size = ManageLayout::tab;
     return MakeStrip(name, size, usualFrames, [=, &theme](QPainter &painter, Frame frame) {
-        const QString key = StateKey(frame);
+        const QString key = u"manage.tab.%1."_s.arg(NameOf(frame));
         const QRectF box(QPointF(0, 0), QSizeF(size));
         Shapes::FillBordered(painter, box, theme.Number(u"button.radius"_s), theme.Color(key + u"face"_s),
                              theme.Color(key + u"border"_s));

@@ -2,6 +2,24 @@
 
 #include <QPainter>
 
+using namespace Qt::Literals::StringLiterals;
+
+QString NameOf(Frame frame)
+{
+    switch (frame) {
+    case Frame::Hovered:
+        return u"hovered"_s;
+    case Frame::Pressed:
+        return u"pressed"_s;
+    case Frame::Disabled:
+        return u"disabled"_s;
+    case Frame::Normal:
+    case Frame::Focused:
+        break;
+    }
+    return u"normal"_s;
+}
+
 Picture MakeStrip(const QString &name, const QSize &frame, int frames,
                   const std::function<void(QPainter &, Frame)> &draw)
 {

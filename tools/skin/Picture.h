@@ -21,6 +21,9 @@ using PictureList = QList<Picture>;
 /// The frames of a button strip, in the strip's order.
 enum class Frame { Normal, Hovered, Pressed, Disabled, Focused };
 
+/// The frame's name in the theme: "normal", "hovered", "pressed", "disabled"; a focused one is "normal".
+QString NameOf(Frame frame);
+
 constexpr int usualFrames = 4;
 constexpr int framesWithFocus = 5;
 

@@ -74,6 +74,7 @@ private Q_SLOTS:
         QTest::newRow("the last page")
             << 11 << 2 << QList{0} << u"1 2 3 4 5 6 7 8 9 10"_s << u"Page 2 of 2: 5"_s;
         QTest::newRow("a whole page") << 8 << 0 << QList{0, 1, 2, 3, 4} << u"6 7 8"_s << u"Page 1 of 1: 3"_s;
+        QTest::newRow("all but one") << 2 << 0 << QList{0} << u"2"_s << u"Page 1 of 1: 1"_s;
         QTest::newRow("all") << 2 << 0 << QList{0, 1} << QString() << u": 0"_s;
     }
     void DeletesWhatWasTicked()
@@ -105,6 +106,7 @@ private Q_SLOTS:
         QTEST(Find<QLabel>(u"labPage_"_s + group)->text() + u": "_s + QString::number(Shown(button)),
               "page after");
         QVERIFY(!Find<SkinButton>(u"XBtn_RecordDelSel_"_s + group)->isEnabled());
+        QCOMPARE(Find<QWidget>(u"Chart"_s + group)->isVisible(), left.size() > 1);
     }
 
     void PagesByKeysAndClearsAll()
@@ -123,7 +125,7 @@ private Q_SLOTS:
             QTest::keyClick(m_window->focusWidget(), Qt::Key_PageDown);
         QVERIFY(Box(u"ChkEnglish"_s, 0)->accessibleName().startsWith(u"11 speed:11 "_s));
         QCOMPARE(m_window->focusWidget(), Box(u"ChkEnglish"_s, 0));
-        QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab); // the second button of the page, the first is…
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
         QCOMPARE(m_window->focusWidget()->objectName(), u"XBtn_PageUp_English"_s);
         for (int i = 0; i < 2; ++i)
             QTest::keyClick(m_window->focusWidget(), Qt::Key_Space);

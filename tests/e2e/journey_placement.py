@@ -3,22 +3,23 @@
 import os
 import shutil
 
+from desktop import until
 from journey import Journey
 
 TEST = "Typing Speed Test"
 
 
 class Placement(Journey):
-    def only_text(self, text):
+    def only_text(self, language, text):
         for kind in ("T_Article", "Professional"):
-            shutil.rmtree(self.program.path("Data", "English", kind))
-        os.makedirs(self.program.path("Data", "English", "T_Article", "Adage"))
-        with open(self.program.path("Data", "English", "T_Article", "Adage", "1.txt"), "wb") as file:
+            shutil.rmtree(self.program.path("Data", language, kind))
+        os.makedirs(self.program.path("Data", language, "T_Article", "Adage"))
+        with open(self.program.path("Data", language, "T_Article", "Adage", "1.txt"), "wb") as file:
             file.write(text)
 
     def test_from_the_login_to_a_drill_and_never_asked_again(self):
         p = self.program
-        self.only_text(b"A hut.\r\n")
+        self.only_text("English", b"A hut.\r\n")
         p.open()
         p.type("anna")
         p.keys("Return")
@@ -46,3 +47,29 @@ class Placement(Journey):
         p.wait_active("Login")
         p.click("anna", "list item", times=2)
         p.wait_active("Quorvex")
+
+    def test_a_chinese_text_through_pinyin_and_home(self):
+        p = self.program
+        self.only_text("Chinese", "你好，我们学习。\r\n".encode("gb18030"))
+        pinyin = self.start_pinyin()
+        p.open()
+        p.type("anna")
+        p.keys("Return")
+        p.wait_active(TEST, "dialog")
+        p.click("Chinease-typing speed", "radio button")
+        p.click("Yes")
+        p.described("Text to copy", "你好，我们学习。\n\n\n\nNext: 你")
+        pinyin.switch()
+        for letters, typed in (("nihao", "你好"), (",", "你好，"), ("tamen", "你好，他们"), ("xuexi", "你好，他们学习")):
+            p.type(letters)
+            if letters.isalpha():
+                until(pinyin.candidates, "candidates")
+                p.keys("space")
+            p.described("Typed text", typed)
+        p.click("Finish the test")
+        p.wait_active("Suggestion")
+        result = p.see("Suggestion", "dialog").description
+        self.assertRegex(result, r"^Result:\n\n    Speed[1-9]\d*   Correct Rate85%\nSuggestion:.+$")
+        p.click("Home")
+        p.wait_active("Quorvex")
+        self.assertEqual(os.listdir(p.path("Users", "anna")), [])

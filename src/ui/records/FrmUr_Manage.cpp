@@ -133,7 +133,7 @@ void FrmUr_Manage::SetAlwaysTest(bool always)
     const QSignalBlocker blocker(Chk_AlwaysTest);
     Chk_AlwaysTest->setChecked(m_records.IfBeginTest());
     Public_Function::ShowMessage(
-        tr("This could not be stored, because a file in this folder cannot be changed:\n%1")
+        tr("This was not stored. This folder cannot be written, or its disk is full:\n%1")
             .arg(Public_Function::NativePath(Public_Function::UserDir())),
         u"Quorvex"_s, MessageIcon::Error, MessageButtons::Ok);
 }

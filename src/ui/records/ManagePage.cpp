@@ -89,7 +89,7 @@ void ManagePage::CheckDeletion(bool done)
     if (done)
         return;
     Public_Function::ShowMessage(
-        tr("Nothing was deleted, because a file in this folder cannot be changed:\n%1")
+        tr("Nothing was deleted. This folder cannot be written, or its disk is full:\n%1")
             .arg(Public_Function::NativePath(Public_Function::UserDir())),
         u"Quorvex"_s, MessageIcon::Error, MessageButtons::Ok);
 }

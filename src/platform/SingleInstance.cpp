@@ -1,12 +1,13 @@
 #include "platform/SingleInstance.h"
 
+#include "platform/SessionLock.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QLockFile>
 #include <QStandardPaths>
 #include <QThread>
 #include <utility>
@@ -79,38 +80,21 @@ SingleInstance::SingleInstance(const QString &runtimeFolder)
 #else
     m_serverName = QDir(runtimeFolder).absoluteFilePath(name + u".socket"_s);
 #endif
-    m_lock = std::make_unique<QLockFile>(QDir(runtimeFolder).absoluteFilePath(name + u".lock"_s));
-    m_lock->setStaleLockTime(0); // only a dead owner makes it stale, not its age
+    m_lock = std::make_unique<SessionLock>(QDir(runtimeFolder).absoluteFilePath(name + u".lock"_s));
 
     // The first copy may have the lock and not listen yet, or not listen any more and end: try both again.
     QElapsedTimer waited;
     waited.start();
-    while (!TakeLock()) {
+    while (!m_lock->Take()) {
         if (AskFirst() || waited.hasExpired(patience)) {
             m_first = false;
             return;
         }
         QThread::msleep(pauseBetweenTries);
     }
-    Listen();
 }
 
 SingleInstance::~SingleInstance() = default;
-
-bool SingleInstance::TakeLock()
-{
-    return m_lock->tryLock(0) || m_lock->error() != QLockFile::LockFailedError;
-}
-
-void SingleInstance::Listen()
-{
-    m_server = std::make_unique<QLocalServer>();
-    m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    QLocalServer::removeServer(m_serverName); // of a copy that crashed; the lock says that none is alive
-    QObject::connect(m_server.get(), &QLocalServer::newConnection, m_server.get(),
-                     [this] { ReceiveRequest(); });
-    m_server->listen(m_serverName); // without it a second copy still ends, only nothing comes forward
-}
 
 bool SingleInstance::AskFirst()
 {
@@ -137,8 +121,7 @@ void SingleInstance::ReceiveRequest()
                 return;
             if (const QByteArray token = request.mid(6); !token.isEmpty())
                 qputenv(activationVariable, token);
-            m_asked = true;
-            Deliver();
+            m_comeForward();
         };
         if (socket->state() == QLocalSocket::UnconnectedState)
             finish();
@@ -150,11 +133,12 @@ void SingleInstance::ReceiveRequest()
 void SingleInstance::SetOnSecondStart(std::function<void()> comeForward)
 {
     m_comeForward = std::move(comeForward);
-    Deliver();
-}
-
-void SingleInstance::Deliver()
-{
-    if (m_comeForward && std::exchange(m_asked, false))
-        m_comeForward();
+    if (!m_first || m_server || m_serverName.isEmpty())
+        return;
+    m_server = std::make_unique<QLocalServer>();
+    m_server->setSocketOptions(QLocalServer::UserAccessOption);
+    QLocalServer::removeServer(m_serverName); // of a copy that crashed; the lock says that none is alive
+    QObject::connect(m_server.get(), &QLocalServer::newConnection, m_server.get(),
+                     [this] { ReceiveRequest(); });
+    m_server->listen(m_serverName); // without it a second copy still ends, only nothing comes forward
 }

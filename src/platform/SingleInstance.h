@@ -6,7 +6,7 @@
 #include <memory>
 
 class QLocalServer;
-class QLockFile;
+class SessionLock;
 
 /// Lets one copy of the program run for each person and display, whatever folder it was started from. A
 /// second copy asks the first to come forward and is to end at once. A copy that crashed or was killed leaves
@@ -23,23 +23,19 @@ public:
     /// Whether this copy may go on. Where no lock can be made at all it may: better two copies than none.
     bool IsFirst() const { return m_first; }
 
-    /// What the first copy does when another one was started; runs in the event loop. A start before this
-    /// is called is made up for at once.
+    /// What the first copy does when another one was started; runs in the event loop. It listens from here
+    /// on: a copy that was started earlier asks again for half a second.
     void SetOnSecondStart(std::function<void()> comeForward);
 
     static QString DefaultRuntimeFolder();
 
 private:
-    bool TakeLock();
-    void Listen();
     bool AskFirst();
     void ReceiveRequest();
-    void Deliver();
 
     QString m_serverName;
-    std::unique_ptr<QLockFile> m_lock;
+    std::unique_ptr<SessionLock> m_lock;
     std::unique_ptr<QLocalServer> m_server;
     std::function<void()> m_comeForward;
     bool m_first = true;
-    bool m_asked = false; ///< by a copy that m_comeForward was not called for yet
 };

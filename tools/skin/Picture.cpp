@@ -34,9 +34,9 @@ Picture MakeStrip(const QString &name, const QSize &frame, int frames,
             }};
 }
 
-QImage RenderPicture(const Picture &picture, int scale)
+QImage RenderPicture(const Picture &picture, qreal scale)
 {
-    QImage image(picture.size * scale, QImage::Format_ARGB32_Premultiplied);
+    QImage image((QSizeF(picture.size) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);

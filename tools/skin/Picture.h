@@ -32,4 +32,4 @@ Picture MakeStrip(const QString &name, const QSize &frame, int frames,
                   const std::function<void(QPainter &, Frame)> &draw);
 
 /// `scale` device pixels to a logical one.
-QImage RenderPicture(const Picture &picture, int scale);
+QImage RenderPicture(const Picture &picture, qreal scale);

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::Literals::StringLiterals;
@@ -39,6 +40,19 @@ bool WriteFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+}
+
+/// The program's icon in the sizes that desktops ask for, `<side>.png`; what went wrong, or an empty text.
+QString WriteIcons(const QString &folder, const PictureList &pictures)
+{
+    const auto icon = std::find_if(pictures.begin(), pictures.end(),
+                                   [](const Picture &picture) { return picture.name == "APP_ICON"_L1; });
+    for (const int side : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        const QString path = QDir(folder).filePath(u"%1.png"_s.arg(side));
+        if (!WriteFile(path, EncodePng(RenderPicture(*icon, qreal(side) / icon->size.width()))))
+            return u"cannot write \"%1\""_s.arg(path);
+    }
+    return {};
 }
 
 PictureList MakeSkinPictures(const Theme &theme)
@@ -79,6 +93,7 @@ int main(int argc, char **argv)
         {u"fonts"_s, u"The folder of the Liberation fonts."_s, u"folder"_s},
         {u"library"_s, u"The skin library to write."_s, u"file"_s},
         {u"program-pictures"_s, u"The folder for the program's own pictures."_s, u"folder"_s},
+        {u"icons"_s, u"The folder for the program's icon in the sizes that desktops use."_s, u"folder"_s},
         {u"dump"_s, u"A folder that also gets every picture of the skin as a file, to look at."_s,
          u"folder"_s},
     });
@@ -110,6 +125,10 @@ int main(int argc, char **argv)
             if (!WriteFile(path, EncodePng(RenderPicture(picture, scale))))
                 return Fail(u"cannot write \"%1\""_s.arg(path));
         }
+    }
+    if (parser.isSet(u"icons"_s)) {
+        if (const QString problem = WriteIcons(parser.value(u"icons"_s), own); !problem.isEmpty())
+            return Fail(problem);
     }
     const QMap<QString, QColor> colors = theme.RuntimeColors();
     if (!theme.Problems().isEmpty())

@@ -1,4 +1,5 @@
 #include "app/AppNavigator.h"
+#include "app/FirstPaint.h"
 
 #include "core/shell/Public_Define.h"
 #include "platform/DBusInputMethod.h"
@@ -59,6 +60,14 @@ void SayWhatIsMissing()
         u"Quorvex"_s, MessageIcon::Information, MessageButtons::Ok);
 }
 
+/// What the menu is painted from, in the order in which it is asked for.
+QStringList MenuPictures()
+{
+    return {u"MAIN_BG"_s,          u"MAIN_BACK"_s,         u"BTN_YINGWEN"_s,      u"BTN_CESHI"_s,
+            u"BTN_JIAOCHENG"_s,    u"BTN_YOUXI_MISSILE"_s, u"BTN_YOUXI_RABBIT"_s, u"BTN_GERENJILU"_s,
+            u"BTN_TUICHUDENGLU"_s, u"BTN_HELP"_s,          u"BTN_MIN"_s,          u"BTN_CLOSE"_s};
+}
+
 /// Closes what is open, innermost first, so that every window stores what it holds.
 void EndProgram(Frm_Main *mainWindow)
 {
@@ -85,6 +94,7 @@ int main(int argc, char **argv)
     Shared().InstallDir = FindInstallDir();
     Shared().HelpFile = Shared().InstallDir + u"Quorvex.chm"_s;
     QPixmapCache::setCacheLimit(PixmapCacheKilobytes);
+    SkinLibrary::DecodeAhead(MenuPictures(), QGuiApplication::primaryScreen()->devicePixelRatio());
     Public_Function::LoadFonts();
     const QScreen *screen = QGuiApplication::primaryScreen();
     Public_Function::InitFontSizes(screen->logicalDotsPerInch());
@@ -104,17 +114,15 @@ int main(int argc, char **argv)
     AppNavigator navigator;
     Frm_Main mainWindow(navigator);
     navigator.SetMainWindow(&mainWindow);
-    instance.SetOnSecondStart([&navigator] { navigator.ComeForward(); });
     const TerminationSignals termination([&mainWindow] { EndProgram(&mainWindow); });
 
-    mainWindow.ShowMenu();
     // The login runs its own loop; the menu must be on the screen before.
-    QMetaObject::invokeMethod(
-        &mainWindow,
-        [&mainWindow] {
-            SayWhatIsMissing();
-            mainWindow.UserLogin();
-        },
-        Qt::QueuedConnection);
+    const FirstPaint login(&mainWindow, [&mainWindow] {
+        SayWhatIsMissing();
+        mainWindow.UserLogin();
+    });
+    mainWindow.ShowMenu();
+    // While the display server is busy with the window.
+    instance.SetOnSecondStart([&navigator] { navigator.ComeForward(); });
     return QApplication::exec();
 }

@@ -3,11 +3,15 @@
 #include "core/shell/Public_Define.h"
 #include "platform/Paths.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
 #include <QPixmapCache>
+#include <QTimer>
 #include <QtEndian>
+#include <future>
+#include <map>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,6 +30,32 @@ Facts &KnownFacts()
     return facts;
 }
 
+/// The file that was opened last, and the prefix of its keys.
+struct OpenFile
+{
+    QString keyPrefix;
+    SqliteFile file;
+};
+
+OpenFile &LastOpened()
+{
+    static OpenFile opened;
+    return opened;
+}
+
+/// What is being decoded ahead, by the keys of the pixmap cache.
+struct PicturesAhead
+{
+    std::map<QString, std::future<QImage>> pictures;
+    std::future<void> worker; ///< waits for its thread when it is destroyed, so it is the last to be declared
+};
+
+PicturesAhead &Ahead()
+{
+    static PicturesAhead ahead;
+    return ahead;
+}
+
 constexpr auto LibraryFile = "Bitmap\\1024_CH.DLL"_L1;
 
 /// Width and height stand big-endian behind the signature and the head of a PNG's first chunk.
@@ -35,6 +65,22 @@ QSize PngSize(const QByteArray &head)
         return {};
     return QSize(qFromBigEndian<qint32>(head.constData() + 16),
                  qFromBigEndian<qint32>(head.constData() + 20));
+}
+
+int ScaleFor(qreal devicePixelRatio)
+{
+    return devicePixelRatio > 1.0 ? 2 : 1;
+}
+
+QByteArray ReadPng(const SqliteFile &file, const QString &name, int scale)
+{
+    QByteArray png;
+    file.Query("SELECT png FROM bitmap WHERE name = ? AND scale = ?", {name, scale},
+               [&png](const SqliteFile::Row &row) {
+                   png = row.Bytes(0);
+                   return false;
+               });
+    return png;
 }
 
 } // namespace
@@ -49,25 +95,58 @@ SkinLibrary::SkinLibrary()
 
 const SqliteFile &SkinLibrary::File() const
 {
-    if (!m_file)
-        m_file.emplace(m_path);
-    return *m_file;
+    OpenFile &opened = LastOpened();
+    if (opened.keyPrefix != m_keyPrefix || !opened.file.IsOpen()) {
+        opened = {m_keyPrefix, SqliteFile(m_path)};
+        // Not longer: some systems do not let a file be replaced that is open.
+        QTimer::singleShot(0, QCoreApplication::instance(), [] { LastOpened() = {}; });
+    }
+    return opened.file;
+}
+
+QString SkinLibrary::PictureKey(const QString &name, int scale) const
+{
+    return m_keyPrefix + name + (scale == 2 ? "@2"_L1 : "@1"_L1);
+}
+
+void SkinLibrary::DecodeAhead(const QStringList &names, qreal devicePixelRatio)
+{
+    const SkinLibrary library;
+    const int scale = ScaleFor(devicePixelRatio);
+    PicturesAhead &ahead = Ahead();
+    std::vector<std::pair<QString, std::promise<QImage>>> work;
+    for (const QString &name : names) {
+        const QString key = library.PictureKey(name, scale);
+        QPixmap known;
+        if (ahead.pictures.count(key) == 0 && !QPixmapCache::find(key, &known)) {
+            work.emplace_back(name, std::promise<QImage>());
+            ahead.pictures[key] = work.back().second.get_future();
+        }
+    }
+    ahead.worker =
+        std::async(std::launch::async, [path = library.m_path, scale, work = std::move(work)]() mutable {
+            const SqliteFile file(path);
+            for (auto &[name, picture] : work)
+                picture.set_value(QImage::fromData(ReadPng(file, name, scale), "PNG")
+                                      .convertToFormat(QImage::Format_ARGB32_Premultiplied));
+        });
 }
 
 QPixmap SkinLibrary::Drawn(const QString &name, qreal devicePixelRatio) const
 {
-    const int scale = devicePixelRatio > 1.0 ? 2 : 1;
-    const QString key = m_keyPrefix + name + (scale == 2 ? "@2"_L1 : "@1"_L1);
+    const int scale = ScaleFor(devicePixelRatio);
+    const QString key = PictureKey(name, scale);
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap))
         return pixmap;
-    QByteArray png;
-    File().Query("SELECT png FROM bitmap WHERE name = ? AND scale = ?", {name, scale},
-                 [&png](const SqliteFile::Row &row) {
-                     png = row.Bytes(0);
-                     return false;
-                 });
-    if (png.isEmpty() || !pixmap.loadFromData(png, "PNG"))
+    auto &ahead = Ahead().pictures;
+    if (const auto begun = ahead.find(key); begun != ahead.end()) {
+        pixmap = QPixmap::fromImage(begun->second.get());
+        ahead.erase(begun);
+    } else {
+        pixmap.loadFromData(ReadPng(File(), name, scale), "PNG");
+    }
+    if (pixmap.isNull())
         return {};
     pixmap.setDevicePixelRatio(scale);
     QPixmapCache::insert(key, pixmap);

@@ -4,7 +4,7 @@
 
 #include <QColor>
 #include <QPixmap>
-#include <optional>
+#include <QStringList>
 
 /// The pictures that every window is painted from, found by their exact names in `Bitmap\1024_CH.DLL` below
 /// `InstallDir`. Make one where you paint, take what you need, let it go: the file is opened only when a
@@ -29,15 +29,20 @@ public:
     /// A colour of the theme, or `fallback`.
     QColor Color(const QString &key, const QColor &fallback) const;
 
+    /// Begins to decode pictures beside the program's own work, for a window that will soon be painted on a
+    /// screen of that ratio. Who asks for one of them before it is ready waits for it.
+    static void DecodeAhead(const QStringList &names, qreal devicePixelRatio);
+
     /// False when the library is missing or cannot be read.
     bool IsUsable() const;
 
 private:
     /// The picture as it was drawn for the ratio, not yet fitted to it.
     QPixmap Drawn(const QString &name, qreal devicePixelRatio) const;
+    /// The open file, kept for those who also paint in this turn of the event loop.
     const SqliteFile &File() const;
+    QString PictureKey(const QString &name, int scale) const;
 
     QString m_path;
     QString m_keyPrefix;
-    mutable std::optional<SqliteFile> m_file;
 };

@@ -265,12 +265,20 @@ private Q_SLOTS:
     {
         class Wubi final : public NoInputMethod
         {
-            QString AskName(std::chrono::milliseconds) override { return u"Wubi"_s; }
+        public:
+            QString AskName(std::chrono::milliseconds) override { return name; }
+            QString name;
         } wubi;
         PlatformServices().inputMethod = &wubi;
         Open<frmEn_KeyTrain_Advanced>();
         Press(Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(Text("labPromptMsg"), u"Input by the current key suggested"_s);
+        wubi.name = u"Wubi"_s; // some switch only now
+        Q_EMIT QGuiApplication::inputMethod()->localeChanged();
         QCOMPARE(Text("labPromptMsg"), u"The current input methodWubi"_s);
+        Type(u"aa"_s);
+        Q_EMIT QGuiApplication::inputMethod()->localeChanged(); // nobody switched it here
+        QCOMPARE(Text("labPromptMsg"), u"Suspended by PAUSE/BREAK"_s);
         Leave();
         Open<frmEn_WordTrain>();
         Press(Qt::Key_Shift, Qt::ControlModifier | Qt::ShiftModifier);

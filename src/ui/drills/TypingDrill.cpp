@@ -4,6 +4,8 @@
 #include "platform/InputMethod.h"
 #include "ui/widgets/OnScreenKeys.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QPointer>
@@ -49,6 +51,8 @@ TypingDrill::TypingDrill(const DrillFacts &facts, Navigator &navigator, QWidget 
 {
     setAttribute(Qt::WA_InputMethodEnabled);
     setInputMethodHints(Qt::ImhLatinOnly | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
+    // Some input methods switch only after all keys were released.
+    connect(QGuiApplication::inputMethod(), &QInputMethod::localeChanged, this, &TypingDrill::SayInputMethod);
 }
 
 void TypingDrill::UseOnScreenKeys(OnScreenKeys *keys)
@@ -151,7 +155,13 @@ void TypingDrill::DrillKeyUp(QKeyEvent *event)
     // An input method takes the press of its own switch: only the release arrives.
     if (CanType() && SwitchesInputMethod(*event))
         m_switching = true;
-    if (!m_switching)
+    SayInputMethod();
+}
+
+/// Names the input method that a switch has led to.
+void TypingDrill::SayInputMethod()
+{
+    if (!m_switching || !isActiveWindow())
         return;
     const QString name = Public_Function::GetImeName();
     const QString hint = name.isEmpty() ? QString() : InputMethodHint(name);

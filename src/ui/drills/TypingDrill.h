@@ -57,6 +57,7 @@ private:
     void BeginTyping();
     void HandleCharacter(char32_t typed, bool accepted);
     void AskForEnglishInput();
+    void SayInputMethod();
 
     OnScreenKeys *m_keys = nullptr;
     int m_soundMode = 1;

@@ -9,11 +9,13 @@
 #include <QStringDecoder>
 #include <algorithm>
 #include <filesystem>
+#include <system_error>
 #include <vector>
 
 #ifdef Q_OS_WIN
 #include <io.h>
 #else
+#include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
 #endif
@@ -29,7 +31,10 @@ bool FlushToDisk(const QFile &file)
 #ifdef Q_OS_WIN
     return _commit(file.handle()) == 0;
 #else
-    return fsync(file.handle()) == 0;
+    int result = fsync(file.handle());
+    while (result != 0 && errno == EINTR)
+        result = fsync(file.handle());
+    return result == 0;
 #endif
 }
 
@@ -222,14 +227,16 @@ QStringList SplitLines(const QString &text)
 
 bool ReplaceFile(const QString &path, const QString &scratchPath, const QByteArray &bytes)
 {
-    const QString target = NativePath(path);
+    const std::optional<QString> target = CertainNativePath(path);
+    if (!target)
+        return false;
     const QString scratch = NativePath(scratchPath);
     QFile::remove(scratch); // what a killed program left behind
-    const Outcome outcome = WriteAndRename(target, scratch, bytes);
+    const Outcome outcome = WriteAndRename(*target, scratch, bytes);
     if (outcome == Outcome::Failed)
         QFile::remove(scratch);
     if (outcome == Outcome::Done)
-        FlushFolder(QFileInfo(target).absolutePath());
+        FlushFolder(QFileInfo(*target).absolutePath());
     return outcome == Outcome::Done;
 }
 
@@ -246,7 +253,10 @@ QStringList ListFolders(const QString &folder)
 QString RemoveFolder(const QString &folder)
 {
     namespace fs = std::filesystem;
-    QString native = NativePath(folder);
+    const std::optional<QString> found = CertainNativePath(folder);
+    if (!found)
+        return QString::fromLocal8Bit(std::make_error_code(std::errc::io_error).message());
+    QString native = *found;
     while (native.size() > 1 && native.endsWith(u'/'))
         native.chop(1); // with it, a link would mean its target
     const fs::path top = QFileInfo(native).filesystemFilePath();
@@ -259,6 +269,7 @@ QString RemoveFolder(const QString &folder)
         std::error_code error;
         fs::remove(path, error);
         note(error);
+        return !error;
     };
 
     std::error_code error;
@@ -274,8 +285,9 @@ QString RemoveFolder(const QString &folder)
         for (const fs::path &file : files)
             remove(file);
     }
-    remove(top);
-    return firstError ? QString::fromLocal8Bit(firstError.message()) : QString();
+    if (remove(top)) // and with it all that seemed to have failed before
+        return {};
+    return QString::fromLocal8Bit(firstError.message());
 }
 
 } // namespace Public_Function

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 /// The program spells its paths with `\` and does not care about letter case; this is the one place where
 /// such a path is turned into one that the machine's file system understands.
@@ -11,6 +12,10 @@ namespace Public_Function {
 /// that does not exist yet keeps its spelling, as do all behind it. A doubled separator counts as one.
 QString NativePath(const QString &path);
 
+/// The same, or nothing when a folder on the way could not be listed: what is written to such a path could
+/// come beside the file that is meant.
+std::optional<QString> CertainNativePath(const QString &path);
+
 /// The product form of a native path: separators become `\`.
 QString ProductPath(const QString &nativePath);
 
@@ -19,5 +24,9 @@ bool FileExists(const QString &path);
 
 /// True when the path names an existing file or folder.
 bool PathExists(const QString &path);
+
+/// True when the system says that nothing is there. A disk that does not answer may hold it all the same: only
+/// what is missing, and not what does not exist, may be made anew.
+bool IsMissing(const QString &path);
 
 } // namespace Public_Function

@@ -96,7 +96,7 @@ bool IUserRecord::SaveFile(const QString &name, const QByteArray &bytes) const
         return false;
     const QString path = UserFile(name);
     if (bytes.isEmpty())
-        return !Public_Function::PathExists(path) || QFile::remove(Public_Function::NativePath(path));
+        return QFile::remove(Public_Function::NativePath(path)) || Public_Function::IsMissing(path);
     return Public_Function::ReplaceFile(path, UserFile(u"temp"_s), bytes);
 }
 
@@ -152,7 +152,7 @@ void IUserRecord::OpenTrainingRecord(int group)
     ClearAllTrainingRecord(group);
     const QString path = UserFile(TrainingFileName(group));
     const std::optional<QByteArray> bytes = Public_Function::ReadFile(path);
-    list->unreadable = !bytes && Public_Function::PathExists(path);
+    list->unreadable = !bytes && !Public_Function::IsMissing(path);
     std::vector<TrainingRecord> records = RecordFile::DecodeTraining(bytes.value_or(QByteArray()));
     if (records.empty())
         return;
@@ -301,7 +301,7 @@ void IUserRecord::OpenMistakeRecord(int language)
         return;
     const QString path = UserFile(MistakeFileName(language));
     const std::optional<QByteArray> bytes = Public_Function::ReadFile(path);
-    list->unreadable = !bytes && Public_Function::PathExists(path);
+    list->unreadable = !bytes && !Public_Function::IsMissing(path);
     if (!bytes)
         return;
     ClearAllMistakeRecord(language);

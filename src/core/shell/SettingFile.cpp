@@ -95,7 +95,7 @@ bool SettingFile::Read()
 {
     const std::optional<QString> text = Public_Function::ReadTextFile(m_path);
     m_lines = text ? Public_Function::SplitLines(*text) : QStringList();
-    return text || !Public_Function::PathExists(m_path);
+    return text || Public_Function::IsMissing(m_path);
 }
 
 int SettingFile::FindKey(const QString &section, const QString &key) const

@@ -24,7 +24,7 @@ QString ListPath()
 std::optional<QStringList> ReadEntries()
 {
     const std::optional<QString> text = Public_Function::ReadTextFile(ListPath());
-    if (!text && Public_Function::PathExists(ListPath()))
+    if (!text && !Public_Function::IsMissing(ListPath()))
         return std::nullopt;
     QStringList lines = Public_Function::SplitLines(text.value_or(QString()));
     lines.removeIf([](const QString &line) { return !line.contains(u';'); });
@@ -96,7 +96,8 @@ bool UserList::IsInvalidName(const QString &name) const
 bool UserList::AddUser(const QString &name)
 {
     std::optional<QStringList> entries = ReadEntries();
-    if (!entries || IsInvalidName(name) || UserExists(name))
+    const auto isIts = [&](const QString &entry) { return IsEntryOf(entry, name); };
+    if (!entries || IsInvalidName(name) || std::any_of(entries->begin(), entries->end(), isIts))
         return false;
     *entries += name + u';';
     if (!WriteEntries(*entries))

@@ -1,6 +1,7 @@
 #include "platform/Files.h"
 
 #include "platform/Paths.h"
+#include "platform/SharedFolder.h"
 #include "platform/WriteFault.h"
 
 #include <QDir>
@@ -90,6 +91,7 @@ Outcome WriteAndRename(const QString &target, const QString &scratch, const QByt
     if (const QFileInfo old(target); old.exists())
         file.setPermissions(old.permissions());
     file.close();
+    Public_Function::ShareWithGroup(scratch);
     if (const Outcome outcome = StepOutcome(WriteFault::Step::Rename); outcome != Outcome::Done)
         return outcome;
     std::error_code error; // unlike QFile::rename, this one replaces, and in one step
@@ -227,10 +229,11 @@ QStringList SplitLines(const QString &text)
 
 bool ReplaceFile(const QString &path, const QString &scratchPath, const QByteArray &bytes)
 {
-    const std::optional<QString> target = CertainNativePath(path);
+    std::optional<QString> target = CertainNativePath(path);
     if (!target)
         return false;
-    const QString scratch = NativePath(scratchPath);
+    QString scratch = NativePath(scratchPath);
+    FollowTrustedLink(*target, scratch);
     QFile::remove(scratch); // what a killed program left behind
     const Outcome outcome = WriteAndRename(*target, scratch, bytes);
     if (outcome == Outcome::Failed)

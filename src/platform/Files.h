@@ -28,7 +28,10 @@ QStringList SplitLines(const QString &text);
 
 /// Replaces `path` by `bytes` so that at any moment, even when the machine stops, the old or the new content
 /// is there, whole: writes `scratchPath`, flushes it to the disk, renames it over. On failure the old file is
-/// untouched, the scratch file is removed and false is returned. The folder must exist.
+/// untouched, the scratch file is removed and false is returned. The folder must exist. In a folder that
+/// hands its group on and that the group may write in, the group may read and write the new file, whatever
+/// the person's creation mask. A link stays, and what it leads to is replaced, when nobody but this person
+/// and the administrator can have put it there; else the link itself is.
 bool ReplaceFile(const QString &path, const QString &scratchPath, const QByteArray &bytes);
 
 /// Files of `folder` whose names match `*.<suffix>` without regard to case, as full product paths in natural

@@ -1,9 +1,14 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "platform/SharedFolder.h"
 #include "support/Damage.h"
 #include "support/TestInstall.h"
 
 #include <QtTest>
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 using namespace Qt::Literals::StringLiterals;
 using namespace Public_Function;
@@ -124,6 +129,52 @@ private Q_SLOTS:
         QCOMPARE(install.Tree(), before);
     }
 
+#ifdef Q_OS_UNIX
+    void sharedByAGroup()
+    {
+        const TestInstall install;
+        const QString dir = Shared().InstallDir;
+        install.Write(u"shared/old"_s, "old");
+        install.MakeFolder(u"own"_s);
+        QVERIFY(chmod(Local(install, u"shared"_s), 02775) == 0);
+        QVERIFY(chmod(Local(install, u"shared/old"_s), 0600) == 0);
+        const mode_t mask = umask(077); // the group gets what the person would not give
+        const bool made = ReplaceFile(dir + u"shared\\old"_s, dir + u"shared\\tmp"_s, "new") &&
+                          MakeFolder(dir + u"shared\\a\\b\\"_s) && MakeFolder(dir + u"own\\a"_s) &&
+                          ReplaceFile(dir + u"shared\\a\\b\\f"_s, dir + u"shared\\a\\b\\tmp"_s, "x") &&
+                          ReplaceFile(dir + u"own\\a\\f"_s, dir + u"own\\a\\tmp"_s, "x");
+        umask(mask);
+        QVERIFY(made);
+        for (const auto &[name, mode] : {std::pair(u"shared/old"_s, 0660u),
+                                         {u"shared/a"_s, 02770u},
+                                         {u"shared/a/b"_s, 02770u},
+                                         {u"shared/a/b/f"_s, 0660u},
+                                         {u"own/a"_s, 0700u},
+                                         {u"own/a/f"_s, 0600u}}) {
+            struct stat found = {};
+            QVERIFY(stat(Local(install, name), &found) == 0);
+            QVERIFY2((found.st_mode & 07777) == mode, qPrintable(name));
+        }
+    }
+
+    void replaceBehindALink()
+    {
+        const TestInstall install;
+        install.MakeFolder(u"there"_s);
+        for (const QByteArray &content : {"first"_ba, "second"_ba}) { // it leads to nothing, then to a file
+            if (content == "first")
+                QVERIFY(symlink("there/real", Local(install, u"f"_s)) == 0);
+            QVERIFY(Replace(content));
+            QCOMPARE(install.Read(u"there/real"_s), content);
+            QVERIFY(QFileInfo(install.Native(u"f"_s)).isSymLink());
+        }
+        QVERIFY(chmod(Local(install, u"."_s), 0770) == 0); // now anybody of the group may have put it there
+        QVERIFY(Replace("third"));
+        QCOMPARE(install.Read(u"there/real"_s) + install.Read(u"f"_s), "secondthird"_ba);
+        QCOMPARE(install.Tree().join(u' '), u"f there there/real"_s);
+    }
+#endif
+
     void listing()
     {
         const TestInstall install;
@@ -158,6 +209,10 @@ private Q_SLOTS:
     }
 
 private:
+    static QByteArray Local(const TestInstall &install, const QString &name)
+    {
+        return QFile::encodeName(install.Native(name));
+    }
     static bool Replace(const QByteArray &bytes)
     {
         return ReplaceFile(Shared().InstallDir + u"f"_s, Shared().InstallDir + u"temp"_s, bytes);

@@ -4,8 +4,8 @@
 #include "core/shell/UserSettings.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "platform/SharedFolder.h"
 
-#include <QDir>
 #include <algorithm>
 #include <optional>
 
@@ -88,7 +88,9 @@ bool UserList::UserExists(const QString &name) const
 bool UserList::IsInvalidName(const QString &name) const
 {
     const auto isForbidden = [](QChar c) {
-        return c == u' ' || c.category() == QChar::Other_Control || u"?*;:/\\<>\""_s.contains(c);
+        // At the start of the list, a byte order mark would not be read as part of a name.
+        return c == u' ' || c == QChar::ByteOrderMark || c.category() == QChar::Other_Control ||
+               u"?*;:/\\<>\""_s.contains(c);
     };
     return std::any_of(name.begin(), name.end(), isForbidden) || !CanBeFolder(name) || IsDeviceName(name);
 }
@@ -119,5 +121,5 @@ UserList::Deletion UserList::DeleteUser(const QString &name)
 
 bool UserList::MakeFolder(const QString &name)
 {
-    return CanBeFolder(name) && QDir().mkpath(Public_Function::NativePath(Public_Function::UserDir(name)));
+    return CanBeFolder(name) && Public_Function::MakeFolder(Public_Function::UserDir(name));
 }

@@ -25,8 +25,8 @@ bool FileExists(const QString &path);
 /// True when the path names an existing file or folder.
 bool PathExists(const QString &path);
 
-/// True when the system says that nothing is there. A disk that does not answer may hold it all the same: only
-/// what is missing, and not what does not exist, may be made anew.
+/// True when the system says that nothing is there. That is not the same as PathExists being false: a disk
+/// that does not answer may hold it all the same, and then it must not be made anew.
 bool IsMissing(const QString &path);
 
 } // namespace Public_Function

@@ -271,9 +271,9 @@ private Q_SLOTS:
         } wubi;
         PlatformServices().inputMethod = &wubi;
         Open<frmEn_KeyTrain_Advanced>();
-        Press(Qt::Key_Space, Qt::ControlModifier);
-        QCOMPARE(Text("labPromptMsg"), u"Input by the current key suggested"_s);
-        wubi.name = u"Wubi"_s; // some switch only now
+        // No key of the switch arrives but the first.
+        QTest::keyPress(m_drill, Qt::Key_Control, Qt::ControlModifier);
+        wubi.name = u"Wubi"_s;
         Q_EMIT QGuiApplication::inputMethod()->localeChanged();
         QCOMPARE(Text("labPromptMsg"), u"The current input methodWubi"_s);
         Type(u"aa"_s);

@@ -51,8 +51,11 @@ TypingDrill::TypingDrill(const DrillFacts &facts, Navigator &navigator, QWidget 
 {
     setAttribute(Qt::WA_InputMethodEnabled);
     setInputMethodHints(Qt::ImhLatinOnly | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
-    // Some input methods switch only after all keys were released.
-    connect(QGuiApplication::inputMethod(), &QInputMethod::localeChanged, this, &TypingDrill::SayInputMethod);
+    // Some take every key of their switch but the press of Ctrl, and switch when all were released.
+    connect(QGuiApplication::inputMethod(), &QInputMethod::localeChanged, this, [this] {
+        m_switching = m_switching || m_lastKey == Qt::Key_Control;
+        SayInputMethod();
+    });
 }
 
 void TypingDrill::UseOnScreenKeys(OnScreenKeys *keys)
@@ -77,6 +80,7 @@ void TypingDrill::ShowPromptKey(char32_t character)
 void TypingDrill::DrillKeyDown(QKeyEvent *event)
 {
     m_composing = false;
+    m_lastKey = event->key();
     const std::u32string typed = TypedCharacters(*event);
     const bool accepted = AcceptKeyDown(*event, !typed.empty());
     const QPointer<TypingDrill> self(this); // the question at a lesson's end may outlive the window

@@ -58,13 +58,13 @@ Picture MakeTextButton(const Theme &theme, const QJsonObject &entry)
     const int frames = entry.value(u"frames").toInt(usualFrames);
     const qreal textSize = entry.value(u"textSize").toDouble(theme.Number(u"button.textSize"_s));
     const QSize size(entry.value(u"width").toInt(), entry.value(u"height").toInt());
-    return MakeStrip(entry.value(u"name").toString(), size, frames,
-                     [=, &theme](QPainter &painter, Frame frame) {
-                         const ButtonLook look(theme, style, frame);
-                         DrawButtonBody(painter, size, look, frame, theme);
-                         const QRectF box(0, frame == Frame::Pressed ? 1 : 0, size.width(), size.height());
-                         Shapes::DrawLabel(painter, box, label, {textSize, true, look.text});
-                     });
+    return MakeStrip(
+        entry.value(u"name").toString(), size, frames, [=, &theme](QPainter &painter, Frame frame) {
+            const ButtonLook look(theme, style, frame);
+            DrawButtonBody(painter, size, look, frame, theme);
+            const QRectF box(0, frame == Frame::Pressed ? 1 : 0, size.width(), size.height());
+            Shapes::DrawLabel(painter, box, label, {textSize, true, look.text, Qt::AlignHCenter, true});
+        });
 }
 
 Picture MakeMenuButton(const Theme &theme, const QString &name, const QString &label, Icon icon)
@@ -81,7 +81,7 @@ Picture MakeMenuButton(const Theme &theme, const QString &name, const QString &l
         constexpr qreal iconSize = 24;
         DrawIcon(painter, icon, QPointF(18, (size.height() - iconSize) / 2 + sink), iconSize, iconColor);
         Shapes::DrawLabel(painter, QRectF(56, sink, size.width() - 60, size.height()), label,
-                          {theme.Number(u"menu.textSize"_s), true, look.text, Qt::AlignLeft});
+                          {theme.Number(u"menu.textSize"_s), true, look.text, Qt::AlignLeft, true});
     });
 }
 

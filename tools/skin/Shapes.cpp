@@ -23,8 +23,10 @@ qreal TextWidth(const QString &text, qreal pixelSize, bool bold)
     return QFontMetricsF(LabelFont(pixelSize, bold)).horizontalAdvance(text);
 }
 
-void DrawLabel(QPainter &painter, const QRectF &box, const QString &text, const TextStyle &style)
+void DrawLabel(QPainter &painter, const QRectF &box, const QString &label, const TextStyle &style)
 {
+    const qsizetype mnemonic = style.mnemonic ? label.indexOf(u'&') : -1;
+    const QString text = mnemonic < 0 ? label : QString(label).remove(mnemonic, 1);
     const QFont font = LabelFont(style.pixelSize, style.bold);
     const QFontMetricsF metrics(font);
     const qreal width = metrics.horizontalAdvance(text);
@@ -47,7 +49,13 @@ void DrawLabel(QPainter &painter, const QRectF &box, const QString &text, const 
         const auto onDevicePixel = [scale = transform.m22()](qreal value) {
             return std::round(value * scale) / scale;
         };
-        painter.drawText(QPointF(onDevicePixel(left), onDevicePixel(baseline)), text);
+        const QPointF start(onDevicePixel(left), onDevicePixel(baseline));
+        painter.drawText(start, text);
+        if (mnemonic >= 0) {
+            const qreal from = onDevicePixel(metrics.horizontalAdvance(text.left(mnemonic)));
+            const qreal wide = onDevicePixel(metrics.horizontalAdvance(text[mnemonic]));
+            painter.fillRect(QRectF(start + QPointF(from, 2), QSizeF(wide, 1)), style.color);
+        }
     }
     painter.restore();
 }

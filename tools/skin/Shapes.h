@@ -18,6 +18,8 @@ struct TextStyle
     bool bold;
     QColor color;
     Qt::AlignmentFlag alignment = Qt::AlignHCenter;
+    /// An "&" is not drawn but underlines the letter behind it, which presses the button together with Alt.
+    bool mnemonic = false;
 };
 
 QFont LabelFont(qreal pixelSize, bool bold);

@@ -34,7 +34,7 @@ void DlgEn_ArticleLesson::MakeControls()
 {
     const QRect area = ContentArea();
     const int optionWidth = 150;
-    const std::array<QString, 2> classes{tr("Articles"), tr("Professional texts")};
+    const std::array<QString, 2> classes{tr("&Articles"), tr("&Professional texts")};
     const std::array<QString, 2> boxNames{tr("Folder of articles"), tr("Folder of professional texts")};
     int top = area.top();
     for (std::size_t i = 0; i < OpnClass.size(); ++i) {

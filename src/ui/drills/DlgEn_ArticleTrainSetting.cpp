@@ -14,7 +14,7 @@ DlgEn_ArticleTrainSetting::DlgEn_ArticleTrainSetting(QWidget *owner)
     : DrillDialog(u"DlgEn_ArticleTrainSetting"_s, QSize(470, 240), owner)
     , m_forms(new OptionColumn(
           tr("Display"), u"optUIStyle"_s,
-          {tr("Type below each line"), tr("Type below the page"), tr("Type over the page")}, this))
+          {tr("Type &below each line"), tr("Type below the &page"), tr("Type o&ver the page")}, this))
     , m_sounds(MakeSoundOptions(this))
 {
     const QRect area = ContentArea();

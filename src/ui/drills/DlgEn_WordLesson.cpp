@@ -16,8 +16,9 @@ DlgEn_WordLesson::DlgEn_WordLesson(QWidget *owner)
     , lstDictionary(new QListWidget(this))
 {
     const QRect area = ContentArea();
-    auto *label = new QLabel(tr("Class"), this);
+    auto *label = new QLabel(tr("C&lass"), this);
     Public_Function::StyleDialogLabel(label);
+    label->setBuddy(cbxClass);
     label->setGeometry(area.left(), area.top(), 52, 28);
     cbxClass->setGeometry(area.left() + 52, area.top(), area.width() - 52, 28);
     lstDictionary->setObjectName(u"lstDictionary"_s);

@@ -8,7 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 DlgEn_WordTrainSetting::DlgEn_WordTrainSetting(QWidget *owner)
     : DrillDialog(u"DlgEn_WordTrainSetting"_s, QSize(320, 286), owner)
     , m_sounds(MakeSoundOptions(this))
-    , chkShowExplanation(new TickBox(u"chkShowExplanation"_s, tr("Show Explanation"), this))
+    , chkShowExplanation(new TickBox(u"chkShowExplanation"_s, tr("Show &Explanation"), this))
 {
     const QRect area = ContentArea();
     m_sounds->setGeometry(area.adjusted(0, 0, 0, -40));

@@ -13,8 +13,8 @@ constexpr int ButtonsHeight = 60;
 
 DrillDialog::DrillDialog(const QString &objectName, const QSize &size, QWidget *owner)
     : SkinnedDialog(owner)
-    , BtnOk(new SkinButton(u"BtnOk"_s, tr("OK"), this))
-    , BtnCancel(new SkinButton(u"BtnCancel"_s, tr("Cancel"), this))
+    , BtnOk(new SkinButton(u"BtnOk"_s, tr("&OK"), this))
+    , BtnCancel(new SkinButton(u"BtnCancel"_s, tr("&Cancel"), this))
 {
     setObjectName(objectName);
     resize(size);

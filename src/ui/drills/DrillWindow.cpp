@@ -102,6 +102,7 @@ void DrillWindow::PlaceTabs()
         const auto index = static_cast<std::size_t>(tab);
         auto *region = new TabRegion(u"DrillTab"_s + QString::number(tab), names[index],
                                      TabPolygon(tab, Layout()), this);
+        region->SetNumber(tab + 1);
         region->SetOwn(tab == m_facts.tab);
         if (tab != m_facts.tab)
             connect(region, &TabRegion::clicked, this, [this, index] { LeaveFor(TabKinds[index]); });
@@ -223,7 +224,7 @@ bool DrillWindow::event(QEvent *event)
         OnActivated();
     else if (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::FocusOut)
         ForgetKeys();
-    return QDialog::event(event);
+    return PracticeWindow::event(event);
 }
 
 void DrillWindow::keyPressEvent(QKeyEvent *event)

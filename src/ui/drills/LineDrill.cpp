@@ -35,8 +35,8 @@ void LineDrill::InitLayout()
     SetKeysSize();
 
     const SkinButton *lesson =
-        AddRowButton(u"BtnSelectLesson"_s, tr("Select a lesson"), u"BTN_SELECTLESSON"_s, 532, 680);
-    const SkinButton *setting = AddRowButton(u"BtnSetting"_s, tr("Settings"), u"BTN_OPERATION"_s, 644, 830);
+        AddRowButton(u"BtnSelectLesson"_s, tr("Select a &lesson"), u"BTN_SELECTLESSON"_s, 532, 680);
+    const SkinButton *setting = AddRowButton(u"BtnSetting"_s, tr("&Settings"), u"BTN_OPERATION"_s, 644, 830);
     connect(lesson, &SkinButton::clicked, this, &LineDrill::OnSelectLesson);
     connect(setting, &SkinButton::clicked, this, &LineDrill::OnSetting);
 }

@@ -56,5 +56,5 @@ void OptionColumn::FocusChosen()
 OptionColumn *MakeSoundOptions(QWidget *parent)
 {
     return new OptionColumn(u"Sound Effect"_s, u"opnSetting"_s,
-                            {u"No Knock Sound"_s, u"Normal"_s, u"Music"_s}, parent);
+                            {u"No &Knock Sound"_s, u"&Normal"_s, u"&Music"_s}, parent);
 }

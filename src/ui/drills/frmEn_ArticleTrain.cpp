@@ -42,8 +42,8 @@ void frmEn_ArticleTrain::InitLayout()
 {
     TypingDrill::InitLayout();
     const SkinButton *lesson =
-        AddRowButton(u"BtnSelectLesson"_s, tr("Select a text"), u"BTN_SELECTLESSON"_s, 532, 680);
-    const SkinButton *setting = AddRowButton(u"BtnSetting"_s, tr("Settings"), u"BTN_OPERATION"_s, 644, 830);
+        AddRowButton(u"BtnSelectLesson"_s, tr("Se&lect a text"), u"BTN_SELECTLESSON"_s, 532, 680);
+    const SkinButton *setting = AddRowButton(u"BtnSetting"_s, tr("&Settings"), u"BTN_OPERATION"_s, 644, 830);
     connect(lesson, &SkinButton::clicked, this, &frmEn_ArticleTrain::OnSelectLesson);
     connect(setting, &SkinButton::clicked, this, &frmEn_ArticleTrain::OnSetting);
     ShowForm(m_session.Form());

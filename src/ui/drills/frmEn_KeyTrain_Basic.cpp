@@ -33,10 +33,10 @@ void frmEn_KeyTrain_Basic::InitLayout()
     CXKeyBoard1->move(layout.origin + layout.Pick(QPoint(34, 203), QPoint(46, 260)));
 
     const SkinButton *lesson =
-        AddRowButton(u"BtnSelectLesson"_s, tr("Select a lesson"), u"BTN_SELECTLESSON"_s, 460, 600);
+        AddRowButton(u"BtnSelectLesson"_s, tr("Select a &lesson"), u"BTN_SELECTLESSON"_s, 460, 600);
     const SkinButton *toNumpad =
-        AddRowButton(u"btnToNumpad"_s, tr("Numeric keypad"), u"BTN_KEYBOARD_NUMBER"_s, 560, 720);
-    const SkinButton *setting = AddRowButton(u"BtnSetting"_s, tr("Settings"), u"BTN_OPERATION"_s, 660, 840);
+        AddRowButton(u"btnToNumpad"_s, tr("Numeric &keypad"), u"BTN_KEYBOARD_NUMBER"_s, 560, 720);
+    const SkinButton *setting = AddRowButton(u"BtnSetting"_s, tr("&Settings"), u"BTN_OPERATION"_s, 660, 840);
     connect(lesson, &SkinButton::clicked, this, &frmEn_KeyTrain_Basic::OnSelectLesson);
     connect(toNumpad, &SkinButton::clicked, this, [this] { LeaveFor(DrillKind::Numpad); });
     connect(setting, &SkinButton::clicked, this, &frmEn_KeyTrain_Basic::OnSetting);

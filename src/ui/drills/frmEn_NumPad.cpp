@@ -58,9 +58,9 @@ void frmEn_NumPad::InitLayout()
     XNumBoard1->move(layout.origin + layout.Pick(QPoint(284, 205), QPoint(370, 260)));
 
     const SkinButton *lesson =
-        AddRowButton(u"BtnSelectLesson"_s, tr("Select a lesson"), u"BTN_SELECTLESSON"_s, 532, 680);
+        AddRowButton(u"BtnSelectLesson"_s, tr("Select a &lesson"), u"BTN_SELECTLESSON"_s, 532, 680);
     const SkinButton *toStandard =
-        AddRowButton(u"btnToStandardKB"_s, tr("Main keyboard"), u"BTN_KEYBOARD_STAND"_s, 644, 830);
+        AddRowButton(u"btnToStandardKB"_s, tr("Main &keyboard"), u"BTN_KEYBOARD_STAND"_s, 644, 830);
     connect(lesson, &SkinButton::clicked, this, &frmEn_NumPad::OnSelectLesson);
     connect(toStandard, &SkinButton::clicked, this, [this] { LeaveFor(DrillKind::KeyJunior); });
 }

@@ -26,8 +26,8 @@ CharacterMistakesPage::CharacterMistakesPage(IUserRecord &store, QWidget *parent
         boxes += box;
     }
     SetBoxes(boxes, ManageLayout::charactersPerRow);
-    m_selectAll = AddButton(u"XBtn_SelectAll"_s, tr("Select all"), u"BTN_UR_SELECTALL"_s);
-    m_selectNone = AddButton(u"XBtn_SelectNone"_s, tr("Select none"), u"BTN_UR_SELECTNONE"_s);
+    m_selectAll = AddButton(u"XBtn_SelectAll"_s, tr("Select &all"), u"BTN_UR_SELECTALL"_s);
+    m_selectNone = AddButton(u"XBtn_SelectNone"_s, tr("Select n&one"), u"BTN_UR_SELECTNONE"_s);
     PlaceFromLeft({m_selectAll, m_selectNone});
     PlaceFromRight({LessonButton(), DeleteButton()});
     setTabOrder(boxes.constLast(), m_selectAll);

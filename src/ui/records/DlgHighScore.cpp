@@ -27,7 +27,7 @@ DlgHighScore::DlgHighScore(QWidget *owner)
     : SkinnedDialog(owner)
     , m_entries(new TopListModel(CollectTopList(), this))
     , m_list(new TopListView(this))
-    , BtnOk(new SkinButton(u"BtnOk"_s, tr("OK"), this))
+    , BtnOk(new SkinButton(u"BtnOk"_s, tr("&OK"), this))
 {
     setObjectName(u"DlgHighScore"_s);
     resize(630, 390);

@@ -11,6 +11,7 @@
 #include "ui/records/RecordsPage.h"
 #include "ui/shell/ShowMessage.h"
 #include "ui/skin/SkinLibrary.h"
+#include "ui/widgets/KeyHint.h"
 #include "ui/widgets/TickBox.h"
 
 #include <QButtonGroup>
@@ -91,6 +92,8 @@ void FrmUr_Manage::MakePages()
         QAbstractButton *const tab = m_tabs->button(static_cast<int>(i));
         page->move(ManageEdge + ManageLayout::tab.width() + ManageGap, TitleHeight() + ManageGap);
         tab->setAccessibleName(page->accessibleName());
+        tab->setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + static_cast<int>(i))));
+        Public_Function::ShowKey(tab);
         connect(tab, &QAbstractButton::toggled, this, [this, page](bool chosen) {
             if (chosen)
                 ShowPage(page);
@@ -102,8 +105,8 @@ void FrmUr_Manage::MakePages()
 void FrmUr_Manage::MakeControls()
 {
     const int top = TitleHeight() + 2 * ManageGap + ManageLayout::page.height();
-    Chk_AlwaysTest = new TickBox(u"Chk_AlwaysTest"_s, tr("Offer the placement test at login"), this);
-    XBtn_ReTest = new SkinButton(u"XBtn_ReTest"_s, tr("New placement test"), this);
+    Chk_AlwaysTest = new TickBox(u"Chk_AlwaysTest"_s, tr("Offer the placement test at &login"), this);
+    XBtn_ReTest = new SkinButton(u"XBtn_ReTest"_s, tr("&New placement test"), this);
     XBtn_ReTest->SetButton(u"BTN_UR_RETEST"_s, SkinLibrary());
     XBtn_ReTest->move(width() - ManageEdge - XBtn_ReTest->width(), top);
     Chk_AlwaysTest->setChecked(m_records.IfBeginTest());

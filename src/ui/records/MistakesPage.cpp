@@ -12,9 +12,9 @@ using namespace Qt::Literals::StringLiterals;
 MistakesPage::MistakesPage(const Names &names, int language, IUserRecord &store, QWidget *parent)
     : ManagePage(names.page, names.accessible, names.background, parent)
     , m_history(store, language)
-    , m_delete(AddButton(u"XBtn_RecordDel_"_s + names.suffix, tr("Delete"), u"BTN_UR_RECORDDEL"_s))
+    , m_delete(AddButton(u"XBtn_RecordDel_"_s + names.suffix, tr("&Delete"), u"BTN_UR_RECORDDEL"_s))
     , m_createLesson(
-          AddButton(u"XBtn_CreateLesson_"_s + names.suffix, tr("Create lesson"), names.lessonButton))
+          AddButton(u"XBtn_CreateLesson_"_s + names.suffix, tr("Create l&esson"), names.lessonButton))
 {
     connect(m_delete, &SkinButton::clicked, this, &MistakesPage::DeleteTicked);
     // The key drill makes its lesson of mistyped keys itself.

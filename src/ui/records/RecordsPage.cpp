@@ -45,12 +45,12 @@ void RecordsPage::MakeControls(const Names &names)
         boxes += row;
     }
     m_grid = new MarkGrid(boxes, 1, this);
-    m_pageUp = AddButton(u"XBtn_PageUp_"_s + names.suffix, tr("Page up"), u"BTN_UR_PAGEUP"_s);
-    m_pageDown = AddButton(u"XBtn_PageDown_"_s + names.suffix, tr("Page down"), u"BTN_UR_PAGEDOWN"_s);
+    m_pageUp = AddButton(u"XBtn_PageUp_"_s + names.suffix, tr("Page &up"), u"BTN_UR_PAGEUP"_s);
+    m_pageDown = AddButton(u"XBtn_PageDown_"_s + names.suffix, tr("Page &down"), u"BTN_UR_PAGEDOWN"_s);
     m_deleteSelected =
-        AddButton(u"XBtn_RecordDelSel_"_s + names.suffix, tr("Delete selected"), u"BTN_UR_RECORDDELSEL"_s);
+        AddButton(u"XBtn_RecordDelSel_"_s + names.suffix, tr("Delete &selected"), u"BTN_UR_RECORDDELSEL"_s);
     m_clearAll =
-        AddButton(u"XBtn_RecordClearAll_"_s + names.suffix, tr("Clear all"), u"BTN_UR_RECORDCLEARALL"_s);
+        AddButton(u"XBtn_RecordClearAll_"_s + names.suffix, tr("&Clear all"), u"BTN_UR_RECORDCLEARALL"_s);
     PlaceFromLeft({m_pageUp, m_pageDown});
     PlaceFromRight({m_deleteSelected, m_clearAll});
     m_pageNumber = new QLabel(this);

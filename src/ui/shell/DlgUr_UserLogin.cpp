@@ -1,6 +1,7 @@
 #include "ui/shell/DlgUr_UserLogin.h"
 
 #include "core/shell/Public_Define.h"
+#include "platform/Paths.h"
 #include "ui/shell/ShowMessage.h"
 #include "ui/skin/DialogStyle.h"
 #include "ui/skin/Fonts.h"
@@ -47,8 +48,8 @@ DlgUr_UserLogin::DlgUr_UserLogin(QWidget *owner)
     : SkinnedDialog(owner)
     , TxtUserName(new QLineEdit(this))
     , LstUser(new QListWidget(this))
-    , XBtnEnter(new SkinButton(u"XBtnEnter"_s, tr("Log in"), this))
-    , XBtnDelete(new SkinButton(u"XBtnDelete"_s, tr("Delete"), this))
+    , XBtnEnter(new SkinButton(u"XBtnEnter"_s, tr("&Log in"), this))
+    , XBtnDelete(new SkinButton(u"XBtnDelete"_s, tr("&Delete"), this))
 {
     setObjectName(u"DlgUr_UserLogin"_s);
     auto *label = new QLabel(tr("&User name"), this);
@@ -175,8 +176,13 @@ void DlgUr_UserLogin::DeleteSelected()
     const UserList::Deletion result = m_users.DeleteUser(name);
     if (!result.error.isEmpty())
         Public_Function::ShowMessage(result.error, QString(), MessageIcon::Error, MessageButtons::Ok);
-    if (!result.deleted)
+    if (!result.deleted) {
+        Public_Function::ShowMessage(
+            tr("This user could not be deleted, because the list of users cannot be changed:\n%1")
+                .arg(Public_Function::NativePath(Shared().InstallDir + u"user.ini"_s)),
+            u"Quorvex"_s, MessageIcon::Error, MessageButtons::Ok);
         return;
+    }
     delete LstUser->takeItem(LstUser->currentRow());
     // The list moves its selection to a neighbour; the person has chosen nobody yet.
     LstUser->setCurrentItem(nullptr);

@@ -50,8 +50,8 @@ Dlg_MessageBox::Dlg_MessageBox(QWidget *owner)
     , ImgMessageInfo(new QLabel(this))
     , LabMessageInfo(new QLabel)
     , m_textArea(new QScrollArea(this))
-    , XBtnOK(new SkinButton(u"XBtnOK"_s, tr("OK"), this))
-    , XBtnCancel(new SkinButton(u"XBtnCancel"_s, tr("No"), this))
+    , XBtnOK(new SkinButton(u"XBtnOK"_s, tr("&OK"), this))
+    , XBtnCancel(new SkinButton(u"XBtnCancel"_s, tr("&No"), this))
 {
     setObjectName(u"Dlg_MessageBox"_s);
     ImgMessageInfo->setObjectName(u"ImgMessageInfo"_s);
@@ -89,7 +89,7 @@ void Dlg_MessageBox::CreateMessage(const QString &text, const QString &caption, 
     const int buttonTop = height() - 45;
     if (buttons == MessageButtons::YesNo) {
         XBtnOK->SetButton(u"BTN_YES"_s, library);
-        XBtnOK->setAccessibleName(tr("Yes"));
+        XBtnOK->SetName(tr("&Yes"));
         XBtnOK->move((width() - 2 * XBtnOK->width()) / 3, buttonTop);
         XBtnCancel->SetButton(u"BTN_NO"_s, library);
         XBtnCancel->move(width() - XBtnOK->x() - XBtnCancel->width(), buttonTop);

@@ -3,6 +3,7 @@
 #include "core/records/IUserRecord.h"
 #include "core/shell/Public_Define.h"
 #include "core/shell/UserSettings.h"
+#include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/ProgramLauncher.h"
 #include "platform/Services.h"
@@ -14,11 +15,11 @@
 #include "ui/skin/SkinLibrary.h"
 #include "ui/skin/StatusTexts.h"
 #include "ui/skin/WindowFrame.h"
+#include "ui/widgets/KeyHint.h"
 #include "ui/widgets/SkinButton.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
@@ -43,16 +44,16 @@ Frm_Main::Frm_Main(Navigator &navigator)
     , m_navigator(navigator)
     , Lab_User(new QLabel(this))
     , Img_Sys_Menu(new QToolButton(this))
-    , XBtnEnglish(AddMenuButton(u"XBtnEnglish"_s, tr("English typing")))
-    , XBtnTest(AddMenuButton(u"XBtnTest"_s, tr("Speed test")))
-    , XBtnJiaocheng(AddMenuButton(u"XBtnJiaocheng"_s, tr("Tutorial")))
-    , XBtnGameMissile(AddMenuButton(u"XBtnGameMissile"_s, tr("Missile game")))
-    , XBtnGameRabbit(AddMenuButton(u"XBtnGameRabbit"_s, tr("Rabbit game")))
-    , XBtn_Gerenjilu(AddMenuButton(u"XBtn_Gerenjilu"_s, tr("My records")))
-    , XBtn_Tuichudenglu(AddMenuButton(u"XBtn_Tuichudenglu"_s, tr("Change user")))
-    , XBtn_Sys_Help(AddMenuButton(u"XBtn_Sys_Help"_s, tr("Help")))
-    , XBtn_Sys_Min(AddMenuButton(u"XBtn_Sys_Min"_s, tr("Minimize")))
-    , XBtn_Sys_Close(AddMenuButton(u"XBtn_Sys_Close"_s, tr("Close")))
+    , XBtnEnglish(new SkinButton(u"XBtnEnglish"_s, tr("&English typing"), this))
+    , XBtnTest(new SkinButton(u"XBtnTest"_s, tr("&Speed test"), this))
+    , XBtnJiaocheng(new SkinButton(u"XBtnJiaocheng"_s, tr("&Tutorial"), this))
+    , XBtnGameMissile(new SkinButton(u"XBtnGameMissile"_s, tr("&Missile game"), this))
+    , XBtnGameRabbit(new SkinButton(u"XBtnGameRabbit"_s, tr("&Rabbit game"), this))
+    , XBtn_Gerenjilu(new SkinButton(u"XBtn_Gerenjilu"_s, tr("My re&cords"), this))
+    , XBtn_Tuichudenglu(new SkinButton(u"XBtn_Tuichudenglu"_s, tr("Change &user"), this))
+    , XBtn_Sys_Help(new SkinButton(u"XBtn_Sys_Help"_s, tr("&Help"), this))
+    , XBtn_Sys_Min(new SkinButton(u"XBtn_Sys_Min"_s, tr("Mi&nimize"), this))
+    , XBtn_Sys_Close(new SkinButton(u"XBtn_Sys_Close"_s, tr("C&lose"), this))
 {
     setObjectName(u"Frm_Main"_s);
     setWindowTitle(u"Quorvex"_s);
@@ -61,7 +62,13 @@ Frm_Main::Frm_Main(Navigator &navigator)
     Lab_User->setTextFormat(Qt::PlainText);
     Img_Sys_Menu->setObjectName(u"Img_Sys_Menu"_s);
     Img_Sys_Menu->setAccessibleName(tr("System menu"));
-    Img_Sys_Menu->setFocusPolicy(Qt::NoFocus);
+    Img_Sys_Menu->setFocusPolicy(Qt::TabFocus);
+    Img_Sys_Menu->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Space));
+    setTabOrder(XBtn_Sys_Close, Img_Sys_Menu);
+    Public_Function::ShowKey(Img_Sys_Menu);
+    Public_Function::ShowKey(XBtn_Sys_Help, u"F1"_s);
+    Public_Function::ShowKey(XBtn_Sys_Min);
+    Public_Function::ShowKey(XBtn_Sys_Close, u"Alt+F4"_s);
     LayoutMainMenu();
     ShowUser();
 
@@ -90,13 +97,6 @@ Frm_Main::Frm_Main(Navigator &navigator)
     connect(XBtn_Sys_Min, &SkinButton::clicked, this, &QWidget::showMinimized);
     connect(XBtn_Sys_Close, &SkinButton::clicked, this, &QWidget::close);
     connect(Img_Sys_Menu, &QToolButton::clicked, this, &Frm_Main::ShowSystemMenu);
-}
-
-SkinButton *Frm_Main::AddMenuButton(const QString &name, const QString &accessibleName)
-{
-    auto *button = new SkinButton(name, accessibleName, this);
-    button->setToolTip(name.startsWith("XBtn_Sys_"_L1) ? accessibleName : QString());
-    return button;
 }
 
 void Frm_Main::ShowMenu()
@@ -183,6 +183,8 @@ void Frm_Main::keyPressEvent(QKeyEvent *event)
 {
     if (Public_Function::IsCloseKey(event))
         close();
+    else if (event->key() == Qt::Key_F1)
+        m_navigator.ShowHelp(this);
     else if (event->key() == Qt::Key_Down)
         focusNextChild();
     else if (event->key() == Qt::Key_Up)
@@ -258,12 +260,11 @@ bool Frm_Main::EnsureUser()
 
 void Frm_Main::SayOnceIfReadOnly()
 {
-    const QFileInfo userFolder(Public_Function::NativePath(Public_Function::UserDir()));
-    if (m_saidReadOnly || (userFolder.isDir() && userFolder.isWritable()))
+    if (m_saidReadOnly || Public_Function::CanWriteIn(Public_Function::UserDir()))
         return;
     m_saidReadOnly = true;
     Public_Function::ShowMessage(
         tr("Quorvex cannot write to its folder, so nothing that you practise will be kept:\n%1")
-            .arg(userFolder.filePath()),
+            .arg(Public_Function::NativePath(Public_Function::UserDir())),
         u"Quorvex"_s, MessageIcon::Stop, MessageButtons::Ok);
 }

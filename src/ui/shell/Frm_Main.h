@@ -29,7 +29,6 @@ protected:
 private:
     struct MenuEntry;
 
-    SkinButton *AddMenuButton(const QString &name, const QString &accessibleName);
     void LayoutMainMenu();
     void PaintMainBackground(QPainter &painter, const QRect &exposed) const;
     void ShowSystemMenu();

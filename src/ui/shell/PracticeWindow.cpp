@@ -5,9 +5,11 @@
 #include "ui/skin/SkinLibrary.h"
 #include "ui/skin/StatusTexts.h"
 #include "ui/skin/WindowFrame.h"
+#include "ui/widgets/KeyHint.h"
 #include "ui/widgets/ProgressBox.h"
 #include "ui/widgets/SkinButton.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
@@ -31,11 +33,11 @@ PracticeWindow::PracticeWindow(const Names &names, const QString &title, Navigat
     , labVeracity(AddLabel(u"labVeracity"_s, tr("Correct rate")))
     , labHint(AddLabel(names.hint, {}))
     , picProgress(new ProgressBox(this))
-    , BtnReturn(AddButton(u"BtnReturn"_s, tr("Back to the menu"), u"BTN_BACK"_s))
+    , BtnReturn(AddButton(u"BtnReturn"_s, tr("&Back to the menu"), u"BTN_BACK"_s))
     , m_navigator(navigator)
     , m_title(title)
     , BtnHelp(AddButton(u"BtnHelp"_s, tr("Help"), u"BTN_HELP"_s))
-    , btnMiniMize(AddButton(u"btnMiniMize"_s, tr("Minimize"), u"BTN_MIN"_s))
+    , btnMiniMize(AddButton(u"btnMiniMize"_s, tr("&Minimize"), u"BTN_MIN"_s))
     , BtnClose(AddButton(u"BtnClose"_s, tr("Close"), u"BTN_CLOSE"_s))
 {
     setObjectName(names.window);
@@ -43,6 +45,8 @@ PracticeWindow::PracticeWindow(const Names &names, const QString &title, Navigat
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_OpaquePaintEvent);
 
+    Public_Function::ShowKey(BtnHelp, u"F1"_s);
+    Public_Function::ShowKey(BtnClose, u"Alt+F4"_s);
     StatusTimer->setObjectName(names.timer);
     StatusTimer->setInterval(StatusInterval);
     connect(StatusTimer, &QTimer::timeout, this, [this] { OnTimer(); });
@@ -91,7 +95,7 @@ SkinButton *PracticeWindow::AddButton(const QString &objectName, const QString &
 {
     auto *button = new SkinButton(objectName, name, this);
     button->setFocusPolicy(Qt::NoFocus);
-    button->setToolTip(name);
+    Public_Function::ShowKey(button);
     button->SetButton(bitmap, SkinLibrary());
     return button;
 }
@@ -159,6 +163,20 @@ void PracticeWindow::ShowHint(const QString &text)
 void PracticeWindow::reject()
 {
     close();
+}
+
+bool PracticeWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        // A key that is still held from the window before must not lead on from this one, and Alt with digits
+        // of the keypad is how some systems type characters.
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->isAutoRepeat() || key->modifiers().testFlag(Qt::KeypadModifier)) {
+            event->accept();
+            return true;
+        }
+    }
+    return QDialog::event(event);
 }
 
 void PracticeWindow::paintEvent(QPaintEvent *event)

@@ -13,7 +13,7 @@ class SkinButton;
 
 /// What every drill and test has around its lesson: a window that covers the screen, with title, system
 /// buttons, lesson caption, status panel, hint and the timer that keeps the status up to date. Buttons take
-/// no focus: every key belongs to the lesson.
+/// no focus: every key belongs to the lesson, but those that are struck with Alt, which press the buttons.
 class PracticeWindow : public QDialog
 {
     Q_OBJECT
@@ -39,6 +39,7 @@ protected:
     void ShowOverScreen();
 
     QLabel *AddLabel(const QString &objectName, const QString &name);
+    /// `name` with an "&" before the letter that presses it together with Alt.
     SkinButton *AddButton(const QString &objectName, const QString &name, const QString &bitmap);
     void SetTitle(const QString &title);
     void ShowLessonTitle(const QString &title);
@@ -55,6 +56,7 @@ protected:
     int AreaWidth() const;
     Navigator &Leader() { return m_navigator; }
 
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     bool focusNextPrevChild(bool) override { return false; }
 

@@ -4,6 +4,7 @@
 #include "ui/skin/SkinLibrary.h"
 #include "ui/skin/StatusTexts.h"
 #include "ui/skin/WindowFrame.h"
+#include "ui/widgets/KeyHint.h"
 #include "ui/widgets/SkinButton.h"
 #include "ui/widgets/TitleBar.h"
 
@@ -33,6 +34,7 @@ SkinnedDialog::SkinnedDialog(QWidget *owner)
     setPalette(colors);
     // The close button is for the mouse; the keyboard has Escape.
     XBtn_Sys_Close->setFocusPolicy(Qt::NoFocus);
+    Public_Function::ShowKey(XBtn_Sys_Close, u"Esc"_s);
     connect(XBtn_Sys_Close, &SkinButton::clicked, this, &SkinnedDialog::reject);
 }
 

@@ -15,11 +15,11 @@ using namespace Qt::Literals::StringLiterals;
 
 DlgSelLsn::DlgSelLsn(const QString &currentFile, QWidget *owner)
     : SkinnedDialog(owner)
-    , m_folderLabel(new QLabel(tr("Folder"), this))
+    , m_folderLabel(new QLabel(tr("&Folder"), this))
     , cbxFolder(new ChoiceBox(u"cbxFolder"_s, tr("Folder"), this))
     , lstFile(new QListWidget(this))
-    , BtnOk(new SkinButton(u"BtnOk"_s, tr("OK"), this))
-    , BtnCancel(new SkinButton(u"BtnCancel"_s, tr("Cancel"), this))
+    , BtnOk(new SkinButton(u"BtnOk"_s, tr("&OK"), this))
+    , BtnCancel(new SkinButton(u"BtnCancel"_s, tr("&Cancel"), this))
     , m_chosenFile(currentFile)
 {
     setObjectName(u"DlgSelLsn"_s);
@@ -71,13 +71,14 @@ void DlgSelLsn::MakeControls()
         Public_Function::TabToChosen({options.cbegin(), options.cend()});
         Public_Function::StyleDialogGroup(group);
     };
-    addGroup(tr("Language"), u"optLanguage"_s, {tr("English"), tr("Chinese")}, optLanguage, left,
+    addGroup(tr("Language"), u"optLanguage"_s, {tr("&English"), tr("C&hinese")}, optLanguage, left,
              languageWidth);
-    addGroup(tr("Material"), u"optClass"_s, {tr("General"), tr("Professional")}, optClass,
+    addGroup(tr("Material"), u"optClass"_s, {tr("&General"), tr("&Professional")}, optClass,
              left + languageWidth + 12, content - languageWidth - 12);
     top += 62 + 12;
 
     Public_Function::StyleDialogLabel(m_folderLabel);
+    m_folderLabel->setBuddy(cbxFolder);
     m_folderLabel->setGeometry(left, top, 60, 28);
     cbxFolder->setGeometry(left + 60, top, content - 60, 28);
     top += 28 + 10;

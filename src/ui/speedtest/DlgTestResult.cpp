@@ -38,7 +38,7 @@ DlgTestResult::DlgTestResult(QWidget *owner)
     , Label4(new QLabel(this))
     , m_levelLine(new QLabel(this))
     , picChart(new Chart(u"picChart"_s, tr("Chart"), this))
-    , BtnOk(new SkinButton(u"BtnOk"_s, tr("OK"), this))
+    , BtnOk(new SkinButton(u"BtnOk"_s, tr("&OK"), this))
     , m_aSpeed{0}
     , m_aSpeedTime{QString()}
     , m_aWrongCount{0}
@@ -76,7 +76,7 @@ void DlgTestResult::MakeControls()
     Public_Function::StyleDialogLabel(m_levelLine, 13, true);
     m_levelLine->setGeometry(left, top, content, 26);
     top += 26 + 8;
-    const std::array<QString, 2> texts{tr("Speed curve"), tr("Wrong characters")};
+    const std::array<QString, 2> texts{tr("&Speed curve"), tr("&Wrong characters")};
     for (std::size_t i = 0; i < optChart.size(); ++i) {
         optChart[i] = new QRadioButton(texts[i], this);
         optChart[i]->setObjectName(u"optChart"_s + QString::number(i));

@@ -18,13 +18,13 @@ using namespace Qt::Literals::StringLiterals;
 
 DlgTestSelect::DlgTestSelect(QWidget *owner)
     : SkinnedDialog(owner)
-    , OptBookFile(new QRadioButton(tr("A sample text of the program"), this))
-    , optUserFile(new QRadioButton(tr("A text file of my own"), this))
-    , Command1(new QPushButton(tr("Browse..."), this))
+    , OptBookFile(new QRadioButton(tr("A &sample text of the program"), this))
+    , optUserFile(new QRadioButton(tr("A &text file of my own"), this))
+    , Command1(new QPushButton(tr("&Browse..."), this))
     , lblFile(new ElidedLabel(u"lblFile"_s, tr("Chosen file"), this))
-    , OptFreeInput(new QRadioButton(tr("Free input, without a text"), this))
-    , BtnOk(new SkinButton(u"BtnOk"_s, tr("OK"), this))
-    , BtnCancel(new SkinButton(u"BtnCancel"_s, tr("Cancel"), this))
+    , OptFreeInput(new QRadioButton(tr("&Free input, without a text"), this))
+    , BtnOk(new SkinButton(u"BtnOk"_s, tr("&OK"), this))
+    , BtnCancel(new SkinButton(u"BtnCancel"_s, tr("&Cancel"), this))
 {
     setObjectName(u"DlgTestSelect"_s);
     resize(440, 320);
@@ -59,7 +59,7 @@ void DlgTestSelect::MakeControls()
     auto *sampleTexts = new QButtonGroup(this);
     auto *samples = new QWidget(this);
     samples->setGeometry(indent, top, right - indent, 54);
-    const std::array<QString, 4> names{tr("Sweden"), tr("Science"), tr("Christmas"), tr("Halvern")};
+    const std::array<QString, 4> names{tr("S&weden"), tr("Sc&ience"), tr("Ch&ristmas"), tr("&Halvern")};
     for (std::size_t i = 0; i < optFile.size(); ++i) {
         optFile[i] = new QRadioButton(names[i], samples);
         optFile[i]->setObjectName(u"optFile"_s + QString::number(i));

@@ -38,12 +38,12 @@ void CheckIndex(const std::array<QRadioButton *, Count> &options, int index)
 DlgTestSetting::DlgTestSetting(QWidget *owner)
     : SkinnedDialog(owner)
     , m_displayGroup(new QGroupBox(tr("Display"), this))
-    , chkComp(new TickBox(u"chkComp"_s, tr("Keep the text and the typing apart"), m_displayGroup))
+    , chkComp(new TickBox(u"chkComp"_s, tr("&Keep the text and the typing apart"), m_displayGroup))
     , m_endGroup(new QGroupBox(tr("End of the test"), this))
     , txtMinutes(new QLineEdit(m_endGroup))
-    , chkKeySound(new TickBox(u"chkKeySound"_s, tr("Key sound"), this))
-    , BtnOk(new SkinButton(u"BtnOk"_s, tr("OK"), this))
-    , BtnCancel(new SkinButton(u"BtnCancel"_s, tr("Cancel"), this))
+    , chkKeySound(new TickBox(u"chkKeySound"_s, tr("Key sou&nd"), this))
+    , BtnOk(new SkinButton(u"BtnOk"_s, tr("&OK"), this))
+    , BtnCancel(new SkinButton(u"BtnCancel"_s, tr("&Cancel"), this))
 {
     setObjectName(u"DlgTestSetting"_s);
     resize(440, 392);
@@ -82,16 +82,17 @@ void DlgTestSetting::MakeControls()
 
     auto *lineGroup = new QGroupBox(tr("At the end of a line"), this);
     addRow(lineGroup, u"optNewLine"_s,
-           std::array<QString, 3>{tr("Go on at once"), tr("Press Enter"), tr("Press Space")}, optNewLine, 24);
+           std::array<QString, 3>{tr("&Go on at once"), tr("Press &Enter"), tr("Press &Space")}, optNewLine,
+           24);
     placeGroup(lineGroup, 62);
 
     chkComp->move(12, 24);
     chkComp->resize(chkComp->sizeHint().width(), SettingRow);
     addRow(m_displayGroup, u"optComp"_s,
-           std::array<QString, 3>{tr("Line by line"), tr("Side by side"), tr("Typed over")}, optComp, 54);
+           std::array<QString, 3>{tr("&Line by line"), tr("S&ide by side"), tr("Typed o&ver")}, optComp, 54);
     placeGroup(m_displayGroup, 92);
 
-    addRow(m_endGroup, u"optOverType"_s, std::array<QString, 2>{tr("With the text"), tr("Time limit")},
+    addRow(m_endGroup, u"optOverType"_s, std::array<QString, 2>{tr("&With the text"), tr("&Time limit")},
            optOverType, 24);
     const int limit = optOverType[1]->geometry().right() + 6;
     txtMinutes->setObjectName(u"txtMinutes"_s);

@@ -16,9 +16,9 @@ DlgUr_BeginTestResult::DlgUr_BeginTestResult(bool english, QWidget *owner)
     , m_english(english)
     , LabResult(new QLabel(this))
     , LabSuggestion(new QLabel(this))
-    , XBtnAccept(new SkinButton(u"XBtnAccept"_s, tr("Accept"), this))
-    , XBtnAgain(new SkinButton(u"XBtnAgain"_s, tr("Again"), this))
-    , XBtnHome(new SkinButton(u"XBtnHome"_s, tr("Home"), this))
+    , XBtnAccept(new SkinButton(u"XBtnAccept"_s, tr("&Accept"), this))
+    , XBtnAgain(new SkinButton(u"XBtnAgain"_s, tr("A&gain"), this))
+    , XBtnHome(new SkinButton(u"XBtnHome"_s, tr("&Home"), this))
 {
     setObjectName(u"DlgUr_BeginTestResult"_s);
     resize(380, 240);

@@ -21,11 +21,11 @@ DlgUr_IfBeginTest::DlgUr_IfBeginTest(QWidget *owner)
                          "beginning of training."_s,
                          this))
     , m_testFor(new QGroupBox(u"Test for"_s, this))
-    , OptEnglish(new QRadioButton(u"English-typing speed"_s, m_testFor))
-    , OptChinese(new QRadioButton(u"Chinease-typing speed"_s, m_testFor))
-    , ChkNotDisplay(new TickBox(u"ChkNotDisplay"_s, u"Don't display this dialog next time."_s, this))
-    , XBtnYes(new SkinButton(u"XBtnYes"_s, tr("Yes"), this))
-    , XBtnNo(new SkinButton(u"XBtnNo"_s, tr("No"), this))
+    , OptEnglish(new QRadioButton(u"&English-typing speed"_s, m_testFor))
+    , OptChinese(new QRadioButton(u"&Chinease-typing speed"_s, m_testFor))
+    , ChkNotDisplay(new TickBox(u"ChkNotDisplay"_s, u"&Don't display this dialog next time."_s, this))
+    , XBtnYes(new SkinButton(u"XBtnYes"_s, tr("&Yes"), this))
+    , XBtnNo(new SkinButton(u"XBtnNo"_s, tr("&No"), this))
 {
     setObjectName(u"DlgUr_IfBeginTest"_s);
     setAccessibleDescription(LabText->text());

@@ -37,7 +37,7 @@ Frm_BeginTest::Frm_BeginTest(Navigator &navigator, QWidget *owner)
     , m_clock(*PlatformServices().clock)
     , m_page(this)
     , m_typingBox(new TypingBox(u"InputRTB"_s, this))
-    , XBtn_Finish(AddButton(u"XBtn_Finish"_s, tr("Finish the test"), u"BTN_FINISH"_s))
+    , XBtn_Finish(AddButton(u"XBtn_Finish"_s, tr("&Finish the test"), u"BTN_FINISH"_s))
 {
     connect(m_typingBox, &TypingBox::CharacterTyped, this,
             [this](const QString &unit) { TypeCharacter(unit.toStdU32String().front()); });

@@ -41,13 +41,13 @@ TestWindow::TestWindow(const QString &objectName, Navigator &navigator, std::uni
     , m_engine(std::move(engine))
     , m_page(this)
     , rtfCursor(new TypingBox(u"rtfCursor"_s, this))
-    , BtnPause(AddButton(u"BtnPause"_s, tr("Pause"), u"BTN_PAUSE"_s))
-    , BtnOver(AddButton(u"BtnOver"_s, tr("Finish"), u"BTN_FINISH"_s))
-    , BtnStop(AddButton(u"BtnStop"_s, tr("Finish the test"), u"BTN_FINISHTEST"_s))
-    , BtnSave(AddButton(u"BtnSave"_s, tr("Save what you typed"), u"BTN_SAVE"_s))
-    , BtnScore(AddButton(u"BtnScore"_s, tr("Top list"), u"BTN_SCORE"_s))
-    , BtnSetting(AddButton(u"BtnSetting"_s, tr("Settings"), u"BTN_OPERATION"_s))
-    , BtnSelectLesson(AddButton(u"BtnSelectLesson"_s, tr("Select a lesson"), u"BTN_SELECTLESSON"_s))
+    , BtnPause(AddButton(u"BtnPause"_s, tr("&Pause"), u"BTN_PAUSE"_s))
+    , BtnOver(AddButton(u"BtnOver"_s, tr("&Finish"), u"BTN_FINISH"_s))
+    , BtnStop(AddButton(u"BtnStop"_s, tr("&End the test"), u"BTN_FINISHTEST"_s))
+    , BtnSave(AddButton(u"BtnSave"_s, tr("S&ave what you typed"), u"BTN_SAVE"_s))
+    , BtnScore(AddButton(u"BtnScore"_s, tr("&Top list"), u"BTN_SCORE"_s))
+    , BtnSetting(AddButton(u"BtnSetting"_s, tr("&Settings"), u"BTN_OPERATION"_s))
+    , BtnSelectLesson(AddButton(u"BtnSelectLesson"_s, tr("Select a &lesson"), u"BTN_SELECTLESSON"_s))
 {
     setFocusProxy(rtfCursor);
     connect(rtfCursor, &TypingBox::CharacterTyped, this, &TestWindow::OnTyped);
@@ -131,6 +131,7 @@ void TestWindow::PlaceTabs()
     for (std::size_t tab = 0; tab < m_tabs.size(); ++tab) {
         m_tabs[tab] = new TabRegion(u"TestTab"_s + QString::number(tab), names[tab],
                                     TestTabPolygon(TestLayout::tabs[tab], Layout().origin), this);
+        m_tabs[tab]->SetNumber(static_cast<int>(tab) + 1);
         const auto source = static_cast<Source>(tab);
         connect(m_tabs[tab], &TabRegion::clicked, this, [this, source] {
             if (source != CurrentSource())

@@ -24,15 +24,21 @@ enum Frame { Normal = 0, Hovered = 1, Pressed = 2, Disabled = 3, Focused = 4 };
 
 } // namespace
 
-SkinButton::SkinButton(const QString &objectName, const QString &accessibleName, QWidget *parent)
+SkinButton::SkinButton(const QString &objectName, const QString &name, QWidget *parent)
     : QAbstractButton(parent)
     , m_frameSize(PlainSize)
 {
     setObjectName(objectName);
-    setAccessibleName(accessibleName);
+    SetName(name);
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::StrongFocus);
     resize(m_frameSize);
+}
+
+void SkinButton::SetName(const QString &name)
+{
+    setShortcut(QKeySequence::mnemonic(name));
+    setAccessibleName(QString(name).remove(u'&'));
 }
 
 void SkinButton::SetButton(const QString &bitmap, const SkinLibrary &library, int frames)

@@ -14,7 +14,12 @@ class SkinButton : public QAbstractButton
     Q_OBJECT
 
 public:
-    explicit SkinButton(const QString &objectName, const QString &accessibleName, QWidget *parent);
+    /// `name` as for SetName.
+    explicit SkinButton(const QString &objectName, const QString &name, QWidget *parent);
+
+    /// The accessible name. A letter with "&" in front presses the button together with Alt; the skin
+    /// underlines it on the picture.
+    void SetName(const QString &name);
 
     void SetButton(const QString &bitmap, const SkinLibrary &library, int frames = 4);
 

@@ -1,5 +1,7 @@
 #include "ui/widgets/TabRegion.h"
 
+#include "ui/widgets/KeyHint.h"
+
 TabRegion::TabRegion(const QString &objectName, const QString &accessibleName, const QPolygon &corners,
                      QWidget *parent)
     : QAbstractButton(parent)
@@ -14,6 +16,12 @@ TabRegion::TabRegion(const QString &objectName, const QString &accessibleName, c
     // The tabs' slanted sides interlock; the mask leaves its neighbour's part of the rectangle to the
     // neighbour.
     setMask(QRegion(m_corners, Qt::OddEvenFill));
+}
+
+void TabRegion::SetNumber(int number)
+{
+    setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + number)));
+    Public_Function::ShowKey(this);
 }
 
 void TabRegion::SetOwn(bool own)

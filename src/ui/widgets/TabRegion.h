@@ -14,6 +14,8 @@ public:
     TabRegion(const QString &objectName, const QString &accessibleName, const QPolygon &corners,
               QWidget *parent);
 
+    /// `number` from 1: that digit together with Alt chooses the tab.
+    void SetNumber(int number);
     /// Whether it is the tab of what the window shows, which leads nowhere.
     void SetOwn(bool own);
 

@@ -32,10 +32,13 @@ void TextDecoder::Note(QByteArrayView text)
 
 QString TextDecoder::Decode(QByteArrayView text) const
 {
-    if (text.isValidUtf8() && m_balance >= 0)
-        return QString::fromUtf8(text);
-    return m_balance < 0 ? Public_Function::DecodeGb18030(text.toByteArray())
-                         : Public_Function::DecodeText(text.toByteArray());
+    QString decoded;
+    if (m_balance < 0)
+        decoded = Public_Function::DecodeGb18030(text.toByteArray());
+    else
+        decoded = text.isValidUtf8() ? QString::fromUtf8(text)
+                                     : Public_Function::DecodeUnmarked(text.toByteArray());
+    return decoded.remove(QChar::ByteOrderMark);
 }
 
 } // namespace BinaryFields

@@ -63,6 +63,7 @@ class TextDecoder
 {
 public:
     void Note(QByteArrayView text);
+    /// Without byte order marks, which nobody sees: a text of marks only is empty.
     QString Decode(QByteArrayView text) const;
 
 private:

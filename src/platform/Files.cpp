@@ -181,17 +181,8 @@ QString DecodeGb18030(const QByteArray &bytes)
     return text;
 }
 
-QString DecodeText(const QByteArray &bytes)
+QString DecodeUnmarked(const QByteArray &bytes)
 {
-    if (const auto encoding = QStringConverter::encodingForData(bytes)) {
-        QStringDecoder decoder(*encoding, QStringConverter::Flag::Stateless);
-        const QString text = decoder.decode(bytes);
-        if (text.isValidUtf16())
-            return text;
-        const QList<uint> characters = text.toUcs4(); // half a surrogate pair becomes U+FFFD here
-        return QString::fromUcs4(reinterpret_cast<const char32_t *>(characters.constData()),
-                                 characters.size());
-    }
     if (bytes.isValidUtf8())
         return QString::fromUtf8(bytes);
     const QString gb18030 = DecodeGb18030(bytes);
@@ -200,6 +191,25 @@ QString DecodeText(const QByteArray &bytes)
         return gb18030;
     const QString utf8 = QString::fromUtf8(bytes);
     return utf8.count(QChar::ReplacementCharacter) < lost ? utf8 : gb18030;
+}
+
+QString DecodeText(const QByteArray &bytes)
+{
+    QString text;
+    if (const auto encoding = QStringConverter::encodingForData(bytes)) {
+        QStringDecoder decoder(*encoding, QStringConverter::Flag::Stateless);
+        text = decoder.decode(bytes);
+    } else {
+        text = DecodeUnmarked(bytes);
+    }
+    qsizetype marks = 0; // several, where files were joined
+    while (marks < text.size() && text[marks] == QChar::ByteOrderMark)
+        ++marks;
+    text.remove(0, marks);
+    if (text.isValidUtf16())
+        return text;
+    const QList<uint> characters = text.toUcs4(); // half a surrogate pair becomes U+FFFD here
+    return QString::fromUcs4(reinterpret_cast<const char32_t *>(characters.constData()), characters.size());
 }
 
 std::optional<QString> ReadTextFile(const QString &path)

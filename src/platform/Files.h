@@ -12,10 +12,13 @@ namespace Public_Function {
 /// never end), or when it is too large for any text: more than a gibibyte.
 std::optional<QByteArray> ReadFile(const QString &path);
 
-/// A text in whatever encoding it is: a byte order mark decides (and is dropped); else valid UTF-8; else
-/// GB18030. What is damaged in a way that fits neither is read as the one that loses fewer characters; each
-/// of those becomes U+FFFD.
+/// A text in whatever encoding it is: a byte order mark decides, else see DecodeUnmarked. Marks at the start
+/// are dropped.
 QString DecodeText(const QByteArray &bytes);
+
+/// A text that is UTF-8 when it is valid UTF-8, else GB18030. What is damaged in a way that fits neither is
+/// read as the one that loses fewer characters; each of those becomes U+FFFD.
+QString DecodeUnmarked(const QByteArray &bytes);
 
 /// A text that is known to be GB18030; what cannot be decoded becomes U+FFFD.
 QString DecodeGb18030(const QByteArray &bytes);

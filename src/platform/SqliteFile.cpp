@@ -23,8 +23,16 @@ SqliteFile::SqliteFile(const QString &nativePath)
     const int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX;
     const int result = sqlite3_open_v2(nativePath.toUtf8().constData(), &database, flags, nullptr);
     m_database.reset(database);
-    if (result != SQLITE_OK)
+    // A damaged page could else claim a row far larger than the file, and the memory would be taken at once.
+    if (result != SQLITE_OK ||
+        sqlite3_exec(database, "PRAGMA cell_size_check = ON", nullptr, nullptr, nullptr) != SQLITE_OK)
         m_database.reset();
+}
+
+void SqliteFile::ForgetDamage(int result) const
+{
+    if (result == SQLITE_CORRUPT)
+        sqlite3_db_release_memory(m_database.get()); // a page that is kept is not checked again
 }
 
 SqliteFile::Statement SqliteFile::Prepare(const char *sql) const
@@ -32,7 +40,7 @@ SqliteFile::Statement SqliteFile::Prepare(const char *sql) const
     if (m_last && std::strcmp(sqlite3_sql(m_last.get()), sql) == 0)
         return std::move(m_last);
     sqlite3_stmt *statement = nullptr;
-    sqlite3_prepare_v2(m_database.get(), sql, -1, &statement, nullptr);
+    ForgetDamage(sqlite3_prepare_v2(m_database.get(), sql, -1, &statement, nullptr));
     return Statement(statement);
 }
 
@@ -62,6 +70,7 @@ bool SqliteFile::Query(const char *sql, const QVariantList &values,
         step = sqlite3_step(statement);
     sqlite3_reset(statement); // gives up the lock on the file
     sqlite3_clear_bindings(statement);
+    ForgetDamage(step);
     m_last = std::move(prepared);
     return step == SQLITE_DONE || step == SQLITE_ROW;
 }

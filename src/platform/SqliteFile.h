@@ -52,6 +52,7 @@ private:
     using Statement = std::unique_ptr<sqlite3_stmt, Finalizer>;
 
     Statement Prepare(const char *sql) const;
+    void ForgetDamage(int result) const;
 
     std::unique_ptr<sqlite3, Closer> m_database;
     mutable Statement m_last; // not running

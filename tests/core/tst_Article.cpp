@@ -45,6 +45,10 @@ private Q_SLOTS:
             u"0123456789/|d/|012345678/|e/"_s);
         row("not through a character", QByteArray("012345678\xF0\x9D\x92\xB3"), u"012345678𝒳|/"_s,
             u"012345678/"_s);
+        row("marks where files were joined",
+            "\xEF\xBB\xBF\xEF\xBB\xBF"
+            "a\xEF\xBB\xBF b",
+            u"a|b|/"_s, u"a b/"_s);
         row("GB18030", "\xC4\xE3 \xBA\xC3", u"你|好|/"_s, u"你 好/"_s);
         row("UTF-16",
             QByteArray("\xFF\xFE"

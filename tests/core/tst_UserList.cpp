@@ -27,7 +27,7 @@ private Q_SLOTS:
     {
         QStringList refused = u",.,..,con,Nul.txt,COM1,lpt9"_s.split(u',');
         refused << QString(256, u'x') << QString(86, u'你') << QString(QChar(0xD800));
-        for (const QChar c : u"?*;:/\\<>\" \t\r\n\0\x7f\x85"_s)
+        for (const QChar c : u"?*;:/\\<>\" \t\r\n\0\x7f\x85\uFEFF"_s)
             refused += u"a"_s + c + u"b"_s;
         for (const QString &name : refused)
             QVERIFY2(UserList().IsInvalidName(name) && !UserList().AddUser(name), qPrintable(name));

@@ -50,7 +50,7 @@ bool Article::InitArticleData(const QString &fileName, Cut cut)
     std::optional<QString> text = Public_Function::ReadTextFile(fileName);
     if (!text)
         return false;
-    m_text = std::move(*text);
+    m_text = std::move(text->remove(QChar::ByteOrderMark)); // where files were joined; no key types it
     m_tokens.clear();
     const qsizetype end = m_text.size();
     const auto isLineEnd = [](QChar character) { return character == u'\r' || character == u'\n'; };

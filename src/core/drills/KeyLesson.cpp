@@ -10,7 +10,7 @@ void AppendGroups(QStringList &groups, const QString &line)
 {
     for (const QStringView piece : QStringView(line).split(u' ', Qt::SkipEmptyParts)) {
         QString group = piece.toString();
-        group.remove(u'\t');
+        group.remove(u'\t').remove(QChar::ByteOrderMark); // no key types a mark where files were joined
         if (!group.isEmpty())
             groups += group;
     }

@@ -19,6 +19,24 @@ DictWordRecord TakeRecord(BinaryFields::Reader &reader)
     return record;
 }
 
+bool IsPair(QStringView text, qsizetype at)
+{
+    return at >= 0 && at + 1 < text.size() && text[at].isHighSurrogate() && text[at + 1].isLowSurrogate();
+}
+
+/// What a line has behind its first characters; a surrogate pair is one.
+QStringView Behind(QStringView line, int characters)
+{
+    for (; characters > 0 && !line.isEmpty(); --characters)
+        line = line.sliced(IsPair(line, 0) ? 2 : 1);
+    return line;
+}
+
+QStringView WithoutLast(QStringView text)
+{
+    return text.chopped(IsPair(text, text.size() - 2) ? 2 : std::min<qsizetype>(1, text.size()));
+}
+
 } // namespace
 
 bool clsEn_IDict::InitDictionary(const QString &strPath, const QString &strDictName)
@@ -40,11 +58,23 @@ bool clsEn_IDict::InitDictionary(const QString &strPath, const QString &strDictN
         m_starts.push_back(static_cast<quint32>(start)); // no file is larger than a gibibyte
         m_decoder.Note(record.Word);
     }
+    RemoveMarks();
     m_starts.shrink_to_fit();
     if (m_starts.empty())
         return false;
     m_reader.OpenEntryFile(strPath + strDictName + u".Dat"_s);
     return true;
+}
+
+/// Drops the words that are empty without their byte order marks, which begin with these bytes.
+void clsEn_IDict::RemoveMarks()
+{
+    const auto isMark = [this](quint32 start) {
+        BinaryFields::Reader reader(QByteArrayView(m_file).sliced(start));
+        const QByteArrayView word = TakeRecord(reader).Word;
+        return (word.front() == '\xEF' || word.front() == '\x84') && m_decoder.Decode(word).isEmpty();
+    };
+    std::erase_if(m_starts, isMark);
 }
 
 DictWordRecord clsEn_IDict::Record(qint32 Index) const
@@ -72,7 +102,7 @@ QString clsEn_IDict::GetPhonetic_Symbol(qint32 Index)
     const QStringList lines = EntryLines(Index);
     for (const QString &line : lines) {
         if (line.startsWith(u'&'))
-            return line.sliced(std::min<qsizetype>(3, line.size())).chopped(line.size() > 3 ? 1 : 0);
+            return WithoutLast(Behind(line, 3)).toString();
     }
     return {};
 }
@@ -83,9 +113,9 @@ QString clsEn_IDict::GetExplanation(qint32 Index)
     const QStringList lines = EntryLines(Index);
     for (const QString &line : lines) {
         if (line.startsWith(u'%') && line.size() >= 2)
-            lead = line.sliced(2);
+            lead = Behind(line, 2).toString();
         else if (line.startsWith(u'\\') || line.startsWith(u'#'))
-            return line.size() >= 2 ? lead + line.sliced(2) : QString();
+            return line.size() >= 2 ? lead + Behind(line, 2).toString() : QString();
     }
     return {};
 }

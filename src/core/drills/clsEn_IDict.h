@@ -35,6 +35,7 @@ public:
     qint16 GetWordDifficulty(qint32 Index) const;
 
 private:
+    void RemoveMarks();
     DictWordRecord Record(qint32 Index) const;
     QStringList EntryLines(qint32 Index);
 

@@ -8,6 +8,7 @@ TestLines::TestLines(const QString &text, int maxCols)
     : m_text(text.toStdU32String())
 {
     m_starts.clear();
+    std::erase(m_text, char32_t(QChar::ByteOrderMark)); // where files were joined; no key types it
     const auto isLineEnd = [](char32_t c) { return c == U'\n' || c == U'\r'; };
     for (std::size_t from = 0; from < m_text.size();) {
         const auto found =

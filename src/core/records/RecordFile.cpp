@@ -90,14 +90,15 @@ std::vector<MistakeRecord> DecodeMistakes(const QByteArray &bytes)
         const auto count = reader.Take<qint16>();
         if (!reader.IsIntact())
             break;
-        if (text.isEmpty() || (text.size() == 1 && text[0] == '\0'))
-            continue;
         records.push_back({QString(), count});
         texts.push_back(text);
         decoder.Note(text);
     }
     for (std::size_t i = 0; i < records.size(); ++i)
         records[i].Char = decoder.Decode(texts[i]);
+    std::erase_if(records, [](const MistakeRecord &record) {
+        return record.Char.isEmpty() || record.Char == QChar(QChar::Null);
+    });
     return records;
 }
 

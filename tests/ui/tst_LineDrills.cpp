@@ -283,6 +283,10 @@ private Q_SLOTS:
         Open<frmEn_WordTrain>();
         Press(Qt::Key_Shift, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(Text("labPromptMsg"), u"Current input method:Wubi"_s);
+        wubi.name = u"Intelligent Pinyin"_s;
+        Press(Qt::Key_Space, Qt::ControlModifier);
+        QVERIFY(Part("labPromptMsg")->heightForWidth(Part("labPromptMsg")->width()) <=
+                Part("labPromptMsg")->height());
     }
 
 private:

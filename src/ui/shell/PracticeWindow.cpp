@@ -157,6 +157,16 @@ void PracticeWindow::ShowLessonTitle(const QString &title)
 
 void PracticeWindow::ShowHint(const QString &text)
 {
+    // One with the name of an input method may need more room than there is beside the hands.
+    constexpr int widest = 300;
+    const auto isCut = [this, &text](int width) {
+        const QRect room(0, 0, width, QWIDGETSIZE_MAX);
+        return labHint->fontMetrics().boundingRect(room, Qt::TextWordWrap, text).height() > labHint->height();
+    };
+    int width = m_layout.Pick(150, 142);
+    while (width < widest && isCut(width))
+        width += 10;
+    labHint->resize(width, labHint->height());
     labHint->setText(text);
 }
 

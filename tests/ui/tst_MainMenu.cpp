@@ -1,4 +1,5 @@
 #include "platform/ProgramLauncher.h"
+#include "support/Damage.h"
 #include "support/Fakes.h"
 #include "support/SkinnedInstall.h"
 #include "ui/shell/DlgHelp.h"
@@ -144,14 +145,21 @@ private Q_SLOTS:
 
     void WhereNothingCanBeWrittenOnePractisesAllTheSame()
     {
-        Show(QString());
-        m_install->Write(u"Users"_s, "no folder, and none can be made");
-        for (int entry = 1; entry <= 2; ++entry) {
-            if (entry == 1)
-                TypeInLogin(u"Ann"_s);
-            Press(u"XBtnEnglish"_s);
-            QCOMPARE(m_navigator->opened.size(), entry);
-            QCOMPARE(m_answers.texts.size(), 1); // said once
+        for (const bool full : {false, true}) {
+            Show(QString());
+            m_answers.texts.clear();
+            if (full)
+                CurrentWriteFault() = WriteFault();
+            else
+                m_install->Write(u"Users"_s, "no folder, and none can be made");
+            for (int entry = 1; entry <= 2; ++entry) {
+                if (entry == 1)
+                    TypeInLogin(u"Ann"_s);
+                Press(u"XBtnEnglish"_s);
+                QCOMPARE(m_navigator->opened.size(), entry);
+                QCOMPARE(m_answers.texts.size(), 1); // said once
+            }
+            CurrentWriteFault().reset();
         }
     }
 
@@ -168,6 +176,22 @@ private Q_SLOTS:
         QVERIFY(text->toPlainText().contains(u"There is no password."_s));
         QTest::keyClick(pages, Qt::Key_Up);
         QVERIFY(text->toPlainText().startsWith(u"The menu"_s));
+        // A search leaves the pages that hold all its words; Escape first ends it.
+        auto *search = help.findChild<QLineEdit *>(u"txtHelpSearch"_s);
+        QTest::keyClicks(search, u"times TWO half"_s);
+        const auto shown = [pages] {
+            QStringList titles;
+            for (int row = 0; row < pages->count(); ++row) {
+                if (!pages->isRowHidden(row))
+                    titles += pages->item(row)->text();
+            }
+            return titles;
+        };
+        QCOMPARE(shown(), QStringList({u"The result of a test"_s, u"The speed curve"_s}));
+        QCOMPARE(pages->currentItem()->text(), u"The result of a test"_s);
+        QVERIFY(!text->extraSelections().isEmpty());
+        QTest::keyClick(search, Qt::Key_Escape);
+        QCOMPARE(shown().size(), book.Pages().size());
         // Every link of every page leads to a page of that name.
         static const QRegularExpression link(u"\\]\\(([^)]*)\\)"_s);
         for (const HelpBook::Page &page : book.Pages()) {

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QWidget>
 #include <array>
+#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -52,8 +53,15 @@ struct PlacedPicture
     QRect place;
 };
 
-/// As far as this from a panel's edge the ground may show through its rounded corners.
-constexpr int RoundedEdge = 16;
+/// The ground may show through a panel in squares of this size at its rounded corners, and nowhere else.
+constexpr int RoundedCorner = 16;
+
+bool ShowsGround(const QRect &panel, const QRect &rect)
+{
+    const QRect betweenSides = panel.adjusted(RoundedCorner, 0, -RoundedCorner, 0);
+    const QRect betweenEnds = panel.adjusted(0, RoundedCorner, 0, -RoundedCorner);
+    return !betweenSides.contains(rect) && !betweenEnds.contains(rect);
+}
 
 void DrawFrame(QPainter &painter, const QRect &rect, const QColor &color)
 {
@@ -87,11 +95,22 @@ void Public_Function::DrawWindowEdge(QPainter &painter, const QSize &window)
 
 void Public_Function::TileMainGround(QPainter &painter, const QRect &rect, const SkinLibrary &library)
 {
-    const QPixmap tile = library.Bitmap(u"MAIN_BG"_s, painter.device()->devicePixelRatioF());
-    if (tile.isNull())
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    const QPixmap tile = library.Bitmap(u"MAIN_BG"_s, ratio);
+    if (tile.isNull()) {
         painter.fillRect(rect, PlainGround);
-    else
+        return;
+    }
+    if (ratio != std::floor(ratio)) { // tiles may begin inside a pixel
         painter.drawTiledPixmap(rect, tile, rect.topLeft());
+        return;
+    }
+    // Tile by tile is copying; as a pattern it would be shared out to threads and waited for.
+    const QSize size = tile.deviceIndependentSize().toSize();
+    for (int y = rect.top() - rect.top() % size.height(); y <= rect.bottom(); y += size.height()) {
+        for (int x = rect.left() - rect.left() % size.width(); x <= rect.right(); x += size.width())
+            painter.drawPixmap(x, y, tile);
+    }
 }
 
 void Public_Function::PaintDrillWindow(int kind, QPainter &painter, const QRegion &exposed,
@@ -99,7 +118,7 @@ void Public_Function::PaintDrillWindow(int kind, QPainter &painter, const QRegio
 {
     const SkinLibrary library;
     QList<PlacedPicture> pictures;
-    QRect covered;
+    QRect panel;
     if (kind >= 0 && kind < static_cast<int>(Modules.size()) && positions.size() >= 6) {
         const ModulePictures &module = Modules[static_cast<std::size_t>(kind)];
         qsizetype i = 0;
@@ -108,13 +127,13 @@ void Public_Function::PaintDrillWindow(int kind, QPainter &painter, const QRegio
             pictures.append({name, QRect(positions[i], library.BitmapSize(name))});
             ++i;
         }
-        covered = pictures[1].place.adjusted(RoundedEdge, RoundedEdge, -RoundedEdge, -RoundedEdge);
+        panel = pictures[1].place;
     }
     // Rectangle by rectangle: pictures are copied much faster through a clip that is one rectangle.
     const qreal ratio = painter.device()->devicePixelRatioF();
     for (const QRect &rect : exposed) {
         painter.setClipRect(rect);
-        if (!covered.contains(rect))
+        if (ShowsGround(panel, rect))
             TileMainGround(painter, rect, library);
         for (const PlacedPicture &picture : pictures) {
             if (picture.place.intersects(rect))

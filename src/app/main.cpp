@@ -3,6 +3,7 @@
 
 #include "core/shell/Public_Define.h"
 #include "platform/DBusInputMethod.h"
+#include "platform/FontSettings.h"
 #include "platform/Paths.h"
 #include "platform/SdlSoundPlayer.h"
 #include "platform/Services.h"
@@ -85,6 +86,7 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(u"Quorvex"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(QUORVEX_VERSION));
     DBusInputMethod inputMethod;
+    const std::future<void> fontSettings = Public_Function::ReadFontSettingsAhead();
     inputMethod.ChooseRunning(InputMethodPatience);
     const std::unique_ptr<QApplication> application = MakeApplication(argc, argv);
 

@@ -253,6 +253,15 @@ bool ReplaceFile(const QString &path, const QString &scratchPath, const QByteArr
     return outcome == Outcome::Done;
 }
 
+bool CanWriteIn(const QString &folder)
+{
+    constexpr qsizetype ordinarySize = 4096;
+    QFile file(NativePath(folder + u"\\writable.tmp"_s));
+    file.remove(); // what a killed program left behind
+    const Outcome outcome = WriteAndFlush(file, QByteArray(ordinarySize, '\0'));
+    return file.remove() && outcome == Outcome::Done;
+}
+
 QStringList ListFiles(const QString &folder, const QString &suffix)
 {
     return ListEntries(folder, u'.' + suffix, QDir::Files);

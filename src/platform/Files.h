@@ -37,6 +37,10 @@ QStringList SplitLines(const QString &text);
 /// and the administrator can have put it there; else the link itself is.
 bool ReplaceFile(const QString &path, const QString &scratchPath, const QByteArray &bytes);
 
+/// Whether a file of ordinary size can be made in the folder now: one is made and taken away again, because
+/// permissions say nothing about a full disk.
+bool CanWriteIn(const QString &folder);
+
 /// Files of `folder` whose names match `*.<suffix>` without regard to case, as full product paths in natural
 /// order ("2.txt" before "10.txt") without regard to case. Hidden files are left out.
 QStringList ListFiles(const QString &folder, const QString &suffix);

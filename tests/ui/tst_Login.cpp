@@ -1,3 +1,4 @@
+#include "support/Damage.h"
 #include "support/Fakes.h"
 #include "support/SkinnedInstall.h"
 #include "ui/shell/DlgUr_UserLogin.h"
@@ -83,6 +84,14 @@ private Q_SLOTS:
         for (const qint16 answer : {Public_Function::MessageNo, Public_Function::MessageYes}) {
             m_answers.answer = answer;
             ClickRow(0);
+            if (answer == Public_Function::MessageYes) { // not on a full disk
+                CurrentWriteFault() = WriteFault();
+                QTest::keyClick(m_list, Qt::Key_Delete);
+                CurrentWriteFault().reset();
+                QVERIFY(m_answers.texts.takeLast().startsWith(u"This user could not be deleted"_s));
+                QCOMPARE(m_list->count(), 2);
+                m_answers.texts.clear();
+            }
             QTest::keyClick(m_list, Qt::Key_Delete);
             QCOMPARE(m_answers.texts.takeLast(), u"Are you sure you want to delete this user?"_s);
             const bool gone = answer == Public_Function::MessageYes;

@@ -1,6 +1,8 @@
-"""An installation that is brought up to date keeps what people put or changed in it."""
+"""An installation that is brought up to date keeps what people put or changed in it, as ./run makes it and as the Debian
+package does."""
 
 import os
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -23,8 +25,8 @@ class UpdateFolder(unittest.TestCase):
         with open(self.path(side, name), "w", encoding="utf-8") as file:
             file.write(text)
 
-    def update(self):
-        subprocess.run(["cmake", "-DFROM=" + self.path("from"), "-DTO=" + self.path("to"), "-P", SCRIPT], check=True)
+    def update(self, source="from", target="to"):
+        subprocess.run(["cmake", "-DFROM=" + self.path(source), "-DTO=" + self.path(target), "-P", SCRIPT], check=True)
 
     def installed(self):
         found = {}
@@ -60,6 +62,31 @@ class UpdateFolder(unittest.TestCase):
         self.assertEqual(self.installed(), {"Lessons/00 é.txt": "one", "Lessons/02.txt": "two"})
 
 
+class UpdatePackage(UpdateFolder):
+    """The package ships what ./run would have installed into an empty folder."""
+
+    def update(self):
+        shutil.rmtree(self.path("originals"), ignore_errors=True)
+        super().update("from", "originals")
+        subprocess.run([PACKAGE_SCRIPT, self.path("originals"), self.path("to")], check=True)
+
+    def test_links_of_people_stay(self):
+        self.write("elsewhere", "mine", "mine")
+        os.remove(self.path("to", "Lessons/02.txt"))
+        os.symlink(self.path("elsewhere", "mine"), self.path("to", "Lessons/02.txt"))
+        self.write("from", "Lessons/02.txt", "two, better")
+        self.update()
+        self.assertEqual(self.installed(), {"Lessons/00 é.txt": "one", "Lessons/02.txt": "mine"})
+
+    def test_removal_leaves_what_people_made(self):
+        self.write("to", "Lessons/02.txt", "mine")
+        self.write("to", "More/mine.txt", "my own")
+        subprocess.run([PACKAGE_SCRIPT, "--remove", self.path("to")], check=True)
+        self.write("to", ".shipped", "")
+        self.assertEqual(self.installed(), {"Lessons/02.txt": "mine", "More/mine.txt": "my own"})
+
+
 if __name__ == "__main__":
+    PACKAGE_SCRIPT = sys.argv.pop(2)
     SCRIPT = sys.argv.pop(1)
     unittest.main()

@@ -1,3 +1,7 @@
+#include "core/drills/ArticlePlace.h"
+#include "core/drills/KeyLessonPlace.h"
+#include "core/drills/WordTrainPlace.h"
+#include "core/shell/Public_Define.h"
 #include "core/shell/SettingFile.h"
 #include "core/shell/UserSettings.h"
 #include "platform/Files.h"
@@ -119,8 +123,7 @@ private Q_SLOTS:
     {
         SettingFile settings(Path());
         settings.Set(u"Main"_s, u"EnSound"_s, 2);
-        const WriteFault fault{WriteFault::Step::Write, WriteFault::Kind::Fail, 3};
-        QVERIFY(!WithFault(fault, [&] { return settings.Save(); }));
+        QVERIFY(!WithFault({3}, [&] { return settings.Save(); }));
         QVERIFY(settings.Save()); // what could not be written was not forgotten
         QCOMPARE(SettingFile(Path()).Integer(u"Main"_s, u"EnSound"_s, 1), 2);
         settings.Set(u"Main"_s, u"EnSound"_s, 0);
@@ -174,6 +177,54 @@ private Q_SLOTS:
                                    Shared().InstallDir + u"data\\ENGLISH\\a.txt"_s};
         for (const QString &stored : asStored)
             QCOMPARE(FindMovedPath(stored), stored);
+    }
+
+    // Everything that keeps a full path finds it in the folder in which the program is now.
+    void placesInAMovedFolder_data()
+    {
+        QTest::addColumn<bool>("copied");
+        QTest::newRow("moved") << false;
+        QTest::newRow("copied") << true;
+    }
+    void placesInAMovedFolder()
+    {
+        QFETCH(bool, copied);
+        const QStringList files{u"Data\\English\\T_Character\\Standard\\05.txt"_s,
+                                u"Data\\English\\T_Character\\Numpad\\02.txt"_s,
+                                u"Data\\English\\T_Word\\Mine\\List.ID"_s,
+                                u"Data\\English\\T_Article\\Mine\\My text.txt"_s};
+        const auto fill = [&](const TestInstall &install, const QByteArray &content) {
+            install.Write(u"Bitmap/1024_CH.DLL"_s, "x");
+            for (QString file : files)
+                install.Write(file.replace(u'\\', u'/'), content);
+        };
+        const QString old = Shared().InstallDir;
+        fill(*m_install, "old");
+        StoreKeyLessonPlace(MainKeyLessonSettings(), {old + files[0], 3, 1});
+        StoreKeyLessonPlace(KeypadLessonSettings(), {old + files[1], 4, 1});
+        StoreWordTrainPlace({old + u"Data\\English\\T_Word\\Mine\\"_s, u"List"_s, u"List"_s, 5, true, 1});
+        StoreArticlePlace({old + files[3], u"Mine:My text.txt"_s, 6, {}, 1});
+        const QByteArray settings = m_install->Read(StoredName());
+        if (!copied)
+            m_install.reset();
+        const TestInstall here(u"Anna"_s);
+        fill(here, "here");
+        here.Write(StoredName(), settings);
+
+        const KeyLessonPlace key = LoadKeyLessonPlace(MainKeyLessonSettings());
+        const KeyLessonPlace keypad = LoadKeyLessonPlace(KeypadLessonSettings());
+        const WordTrainPlace word = LoadWordTrainPlace();
+        const QStringList found{key.lessonFile, keypad.lessonFile,
+                                word.dictionaryPath + word.dictionaryFile + u".ID"_s,
+                                LoadArticlePlace().articleFile};
+        QCOMPARE((QList{key.itemIndex, keypad.itemIndex, word.wordIndex}), (QList{3, 4, 5}));
+        for (qsizetype i = 0; i < files.size(); ++i) {
+            QCOMPARE(found[i], Shared().InstallDir + files[i]);
+            QCOMPARE(ReadFile(found[i]), "here"_ba);
+        }
+        for (const QString &name : {u"Data/English/T_Article/Mine/My text.txt"_s, u"Bitmap/1024_CH.DLL"_s})
+            QVERIFY(QFile::remove(here.Native(name))); // what is only there is used there
+        QCOMPARE(FindMovedPath(old + files[3]), old + files[3]);
     }
 
 private:

@@ -4,10 +4,23 @@
 #include "core/shell/SettingFile.h"
 #include "platform/Paths.h"
 
+#include <QFileInfo>
 #include <algorithm>
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Whether a folder, ending in a separator, is an install folder and not today's.
+bool IsOtherInstallDir(const QString &folder)
+{
+    using namespace Public_Function;
+    return FileExists(folder + u"Bitmap\\1024_CH.DLL"_s) &&
+           QFileInfo(NativePath(folder)) != QFileInfo(NativePath(Shared().InstallDir));
+}
+
+} // namespace
 
 namespace Public_Function {
 
@@ -65,8 +78,9 @@ void LoadTestSetting()
 
 QString FindMovedPath(const QString &storedPath)
 {
-    if (storedPath.isEmpty() || PathExists(storedPath))
+    if (storedPath.isEmpty())
         return storedPath;
+    const bool exists = PathExists(storedPath);
     const QString path = ProductPath(storedPath);
     static const QStringList ownFolders{u"\\Data\\"_s, u"\\Users\\"_s, u"\\Sound\\"_s, u"\\Bitmap\\"_s};
     // A parent of the old install folder may have been named like one of these: try from every separator.
@@ -75,7 +89,7 @@ QString FindMovedPath(const QString &storedPath)
         const bool own = std::any_of(ownFolders.begin(), ownFolders.end(), [&](const QString &folder) {
             return rest.startsWith(folder, Qt::CaseInsensitive);
         });
-        if (!own)
+        if (!own || (exists && !IsOtherInstallDir(path.first(at + 1))))
             continue;
         if (const QString moved = Shared().InstallDir + rest.sliced(1).toString(); PathExists(moved))
             return moved;

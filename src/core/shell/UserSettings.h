@@ -18,9 +18,10 @@ void SaveSoundSetting();
 /// Sets `TestSource` to 0 and reads the speed test settings.
 void LoadTestSetting();
 
-/// A stored full path whose install folder has moved since: when `storedPath` does not exist but the part of
-/// it from one of the program's own folders (Data, Users, Sound, Bitmap) on exists below today's
-/// `InstallDir`, that path; else `storedPath` unchanged.
+/// A stored full path after its install folder was moved or copied. When the part of it from one of the
+/// program's own folders (Data, Users, Sound, Bitmap) on exists below today's `InstallDir`, and `storedPath`
+/// does not exist or belongs to another install folder, which the copy is no longer to touch: the path below
+/// today's. Else `storedPath` unchanged.
 QString FindMovedPath(const QString &storedPath);
 
 } // namespace Public_Function

@@ -39,13 +39,25 @@ bool IsSilence(const QDBusMessage &reply)
     return error == QDBusError::NoReply || error == QDBusError::Timeout || error == QDBusError::TimedOut;
 }
 
+/// The machine's identity, or an empty text: asked for one where there is none, as in a bare container, the
+/// bus library ends the program.
+QString MachineId()
+{
+    for (const QString &path : {u"/var/lib/dbus/machine-id"_s, u"/etc/machine-id"_s}) {
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly))
+            return QString::fromLatin1(file.readLine(64).trimmed());
+    }
+    return {};
+}
+
 /// The files in which IBus may have left its address: one a display, the Wayland one first, as IBus does it.
 QStringList IBusAddressFiles()
 {
     if (qEnvironmentVariableIsSet("IBUS_ADDRESS_FILE"))
         return {qEnvironmentVariable("IBUS_ADDRESS_FILE")};
     const QString start = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                          u"/ibus/bus/"_s + QString::fromLatin1(QDBusConnection::localMachineId()) + u'-';
+                          u"/ibus/bus/"_s + MachineId() + u'-';
     QStringList files;
     if (const QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY"); !wayland.isEmpty())
         files += start + u"unix-"_s + wayland;

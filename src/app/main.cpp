@@ -18,6 +18,7 @@
 #include "ui/skin/StatusTexts.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QPixmapCache>
 #include <QScreen>
 
@@ -85,11 +86,13 @@ int main(int argc, char **argv)
     QApplication::setStyle(u"fusion"_s);
     QCoreApplication::setApplicationName(u"Quorvex"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(QUORVEX_VERSION));
+    QGuiApplication::setDesktopFileName(u"quorvex"_s); // by which a desktop knows whose windows these are
     DBusInputMethod inputMethod;
     const std::future<void> fontSettings = Public_Function::ReadFontSettingsAhead();
     inputMethod.ChooseRunning(InputMethodPatience);
     const std::unique_ptr<QApplication> application = MakeApplication(argc, argv);
 
+    QApplication::setWindowIcon(QIcon(u":/message/APP_ICON.png"_s));
     SingleInstance instance;
     if (!instance.IsFirst())
         return 0;

@@ -53,51 +53,31 @@ void FlushFolder(const QString &nativeFolder)
 #endif
 }
 
-/// What a step of ReplaceFile comes to.
-enum class Outcome { Done, Failed, Stopped };
-
-Outcome StepOutcome(WriteFault::Step step)
+bool WriteAndFlush(QFile &file, const QByteArray &bytes)
 {
-    const std::optional<WriteFault> &fault = CurrentWriteFault();
-    if (!fault || fault->step != step)
-        return Outcome::Done;
-    return fault->kind == WriteFault::Kind::Stop ? Outcome::Stopped : Outcome::Failed;
-}
-
-Outcome WriteAndFlush(QFile &file, const QByteArray &bytes)
-{
-    if (const Outcome outcome = StepOutcome(WriteFault::Step::Open); outcome != Outcome::Done)
-        return outcome;
     // NewOnly: a link that somebody put in the scratch file's place is not followed.
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
-        return Outcome::Failed;
-    if (const Outcome outcome = StepOutcome(WriteFault::Step::Write); outcome != Outcome::Done) {
-        file.write(bytes.constData(), std::min<qint64>(bytes.size(), CurrentWriteFault()->afterBytes));
-        return outcome;
+        return false;
+    if (const std::optional<WriteFault> &full = CurrentWriteFault()) {
+        file.write(bytes.constData(), std::min<qint64>(bytes.size(), full->afterBytes));
+        return false;
     }
-    if (file.write(bytes) != bytes.size())
-        return Outcome::Failed;
-    if (const Outcome outcome = StepOutcome(WriteFault::Step::Flush); outcome != Outcome::Done)
-        return outcome;
-    return FlushToDisk(file) ? Outcome::Done : Outcome::Failed;
+    return file.write(bytes) == bytes.size() && FlushToDisk(file);
 }
 
-Outcome WriteAndRename(const QString &target, const QString &scratch, const QByteArray &bytes)
+bool WriteAndRename(const QString &target, const QString &scratch, const QByteArray &bytes)
 {
     QFile file(scratch);
-    const Outcome written = WriteAndFlush(file, bytes);
-    if (written != Outcome::Done)
-        return written;
+    if (!WriteAndFlush(file, bytes))
+        return false;
     if (const QFileInfo old(target); old.exists())
         file.setPermissions(old.permissions());
     file.close();
     Public_Function::ShareWithGroup(scratch);
-    if (const Outcome outcome = StepOutcome(WriteFault::Step::Rename); outcome != Outcome::Done)
-        return outcome;
     std::error_code error; // unlike QFile::rename, this one replaces, and in one step
     std::filesystem::rename(QFileInfo(scratch).filesystemFilePath(), QFileInfo(target).filesystemFilePath(),
                             error);
-    return error ? Outcome::Failed : Outcome::Done;
+    return !error;
 }
 
 /// Whether a name comes first when runs of digits compare by their value: "2.txt" before "10.txt".
@@ -245,12 +225,12 @@ bool ReplaceFile(const QString &path, const QString &scratchPath, const QByteArr
     QString scratch = NativePath(scratchPath);
     FollowTrustedLink(*target, scratch);
     QFile::remove(scratch); // what a killed program left behind
-    const Outcome outcome = WriteAndRename(*target, scratch, bytes);
-    if (outcome == Outcome::Failed)
+    if (!WriteAndRename(*target, scratch, bytes)) {
         QFile::remove(scratch);
-    if (outcome == Outcome::Done)
-        FlushFolder(QFileInfo(*target).absolutePath());
-    return outcome == Outcome::Done;
+        return false;
+    }
+    FlushFolder(QFileInfo(*target).absolutePath());
+    return true;
 }
 
 bool CanWriteIn(const QString &folder)
@@ -258,8 +238,8 @@ bool CanWriteIn(const QString &folder)
     constexpr qsizetype ordinarySize = 4096;
     QFile file(NativePath(folder + u"\\writable.tmp"_s));
     file.remove(); // what a killed program left behind
-    const Outcome outcome = WriteAndFlush(file, QByteArray(ordinarySize, '\0'));
-    return file.remove() && outcome == Outcome::Done;
+    const bool written = WriteAndFlush(file, QByteArray(ordinarySize, '\0'));
+    return file.remove() && written;
 }
 
 QStringList ListFiles(const QString &folder, const QString &suffix)

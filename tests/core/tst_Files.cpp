@@ -83,32 +83,6 @@ private Q_SLOTS:
             QVERIFY(!ReadFile(path));
     }
 
-    void replaceIsWholeOrNotAtAll()
-    {
-        const TestInstall install;
-        const QByteArray fresh("and what is there now, longer than before");
-        using enum WriteFault::Step;
-        for (const QByteArray &old : {QByteArray(), "what was there before"_ba}) {
-            for (qsizetype n = 0; n < 2 * (fresh.size() + 4); ++n) {
-                const auto kind = n % 2 == 0 ? WriteFault::Kind::Fail : WriteFault::Kind::Stop;
-                const auto step = n < 2 ? Open : n < 4 ? Flush : n < 6 ? Rename : Write;
-                const WriteFault fault{step, kind, step == Write ? n / 2 - 3 : 0};
-                QVERIFY(!WithFault(fault, [&] { return Replace(fresh); }));
-                QCOMPARE(install.Read(u"f"_s), old);
-                QCOMPARE(install.Read(u"f"_s).isNull(), old.isNull());
-                const QByteArray left = install.Read(u"temp"_s);
-                QCOMPARE(!left.isNull(), kind == WriteFault::Kind::Stop && step != Open);
-                if (step == Write && !left.isNull())
-                    QCOMPARE(left, fresh.first(fault.afterBytes));
-            }
-            for (const QByteArray &content : {fresh, ""_ba, "what was there before"_ba}) {
-                QVERIFY(Replace(content));
-                QCOMPARE(install.Read(u"f"_s), content);
-                QCOMPARE(install.Tree(), QStringList{u"f"_s});
-            }
-        }
-    }
-
     void replaceTouchesNothingElse()
     {
         const TestInstall install;

@@ -1,6 +1,5 @@
 #include "core/engine/KTest.h"
 #include "core/engine/TextUnits.h"
-#include "support/Damage.h"
 #include "support/TypingCase.h"
 
 #include <QDir>
@@ -104,8 +103,6 @@ private Q_SLOTS:
         const QString path = Shared().InstallDir + u"typed.txt"_s;
         QVERIFY(lesson.test->SaveInput(path));
         lesson.test->CheckString(u"𠀀"_s);
-        const WriteFault full{WriteFault::Step::Write, WriteFault::Kind::Fail, 3};
-        QVERIFY(!WithFault(full, [&] { return lesson.test->SaveInput(path); }));
         QVERIFY(!lesson.test->SaveInput(Shared().InstallDir + u"none\\typed.txt"_s));
         QCOMPARE(lesson.install.Read(u"typed.txt"_s), "午\r\n\r\n"_ba);
         QCOMPARE(lesson.install.Entries(QString()).join(u' '), u"Data Users typed.txt"_s);

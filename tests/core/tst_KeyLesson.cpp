@@ -88,8 +88,6 @@ private Q_SLOTS:
         QCOMPARE(m_install->Tree(), QStringList());
         m_install->Write(MissedLesson(), "old");
         QVERIFY(!WriteFallibleKeyLesson(QString()));
-        const WriteFault fault{WriteFault::Step::Write, WriteFault::Kind::Fail, 100};
-        QVERIFY(!WithFault(fault, [] { return WriteFallibleKeyLesson(u"a"_s); }));
         QCOMPARE(m_install->Read(MissedLesson()), "old"_ba);
     }
 

@@ -262,8 +262,7 @@ private Q_SLOTS:
         QVERIFY(store.SaveTrainingRecordFile(0));
         const QByteArray old = File(u"RecordEN.Dat"_s);
         store.AddTrainingRecord(40, 90, u"new"_s, 0);
-        const WriteFault fault{WriteFault::Step::Write, WriteFault::Kind::Stop, 5};
-        QVERIFY(!WithFault(fault, [&] { return store.SaveTrainingRecordFile(0); }));
+        QVERIFY(!WithFault({5}, [&] { return store.SaveTrainingRecordFile(0); }));
         QCOMPARE(File(u"RecordEN.Dat"_s), old);
         QVERIFY(store.SaveTrainingRecordFile(0) && File(u"temp"_s).isNull());
         QCOMPARE(Opened().GetTrainingRecord(0, 0)->Text, u"new"_s);

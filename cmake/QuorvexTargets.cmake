@@ -15,6 +15,9 @@ if(QUORVEX_SANITIZE)
         -fno-omit-frame-pointer -O1)
     target_link_options(quorvex_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(QUORVEX_FUZZ)
+    target_compile_options(quorvex_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # quorvex_add_library(NAME FOLDER...): a static library of all sources below the folders.
 function(quorvex_add_library name)

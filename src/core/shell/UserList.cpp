@@ -26,7 +26,9 @@ std::optional<QStringList> ReadEntries()
     const std::optional<QString> text = Public_Function::ReadTextFile(ListPath());
     if (!text && !Public_Function::IsMissing(ListPath()))
         return std::nullopt;
-    QStringList lines = Public_Function::SplitLines(text.value_or(QString()));
+    QString list = text.value_or(QString());
+    list.remove(QChar::ByteOrderMark); // where files were joined; no name holds one
+    QStringList lines = Public_Function::SplitLines(list);
     lines.removeIf([](const QString &line) { return !line.contains(u';'); });
     return lines;
 }
@@ -88,7 +90,6 @@ bool UserList::UserExists(const QString &name) const
 bool UserList::IsInvalidName(const QString &name) const
 {
     const auto isForbidden = [](QChar c) {
-        // At the start of the list, a byte order mark would not be read as part of a name.
         return c == u' ' || c == QChar::ByteOrderMark || c.category() == QChar::Other_Control ||
                u"?*;:/\\<>\""_s.contains(c);
     };

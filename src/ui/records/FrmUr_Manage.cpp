@@ -65,6 +65,7 @@ void FrmUr_Manage::MakeTabs()
         auto *tab = new PageTab(name, QString(), this);
         tab->SetButton(bitmap, library);
         tab->setCheckable(true);
+        tab->setAutoExclusive(true); // one of several, to those who cannot see it
         tab->move(place);
         m_tabs->addButton(tab, i);
         place.ry() += ManageLayout::tabStep + (i + 1 == TabsBeforeGap ? TabGroupGap : 0);

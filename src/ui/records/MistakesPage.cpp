@@ -41,6 +41,7 @@ void MistakesPage::Refresh()
         const QString said = tr("%1, mistyped %2 times").arg(character).arg(m_frequent[i].Count);
         box->setAccessibleName(said);
         box->setToolTip(said);
+        box->setAccessibleDescription(tr("tick it to delete it"));
     }
     m_grid->ShowFirst(static_cast<int>(m_frequent.size()));
     ShowMistakes(m_frequent, m_history.Amount());

@@ -32,7 +32,7 @@ TopListView::TopListView(QWidget *parent)
         u"QTableView { background: transparent; color: rgb(40, 46, 58); outline: none; border: none; }"
         "QTableView::item { border: none; padding: 0 %1px; }"
         "QTableView::item:selected { background: rgb(62, 84, 122); color: white; }"
-        "QTableView::item:selected:!active { background: rgb(112, 128, 156); }"_s.arg(CellPad - textMargin));
+        "QTableView::item:selected:!active { background: rgb(98, 114, 143); }"_s.arg(CellPad - textMargin));
     Public_Function::StyleDialogScrollBar(verticalScrollBar());
 }
 

@@ -36,6 +36,24 @@ QString IconFile(MessageIcon icon)
     return {};
 }
 
+/// What the icon tells those who do not see it.
+QString IconName(MessageIcon icon)
+{
+    switch (icon) {
+    case MessageIcon::Information:
+        return Dlg_MessageBox::tr("Information");
+    case MessageIcon::Stop:
+        return Dlg_MessageBox::tr("Warning");
+    case MessageIcon::Error:
+        return Dlg_MessageBox::tr("Error");
+    case MessageIcon::Question:
+        return Dlg_MessageBox::tr("Question");
+    case MessageIcon::None:
+        break;
+    }
+    return {};
+}
+
 /// Lets a path or another unbroken run of characters wrap: a label breaks lines only where a text allows it.
 QString Breakable(QString text)
 {
@@ -76,6 +94,7 @@ void Dlg_MessageBox::CreateMessage(const QString &text, const QString &caption, 
         QPixmap picture(file + (devicePixelRatioF() > 1.0 ? u"@2x.png"_s : u".png"_s));
         ImgMessageInfo->setScaledContents(true);
         ImgMessageInfo->setPixmap(picture);
+        ImgMessageInfo->setAccessibleName(IconName(icon));
     }
     LabMessageInfo->setText(Breakable(text));
     LabMessageInfo->setFixedWidth(LabelWidth);

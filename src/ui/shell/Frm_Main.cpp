@@ -16,6 +16,7 @@
 #include "ui/skin/StatusTexts.h"
 #include "ui/skin/WindowFrame.h"
 #include "ui/widgets/KeyHint.h"
+#include "ui/widgets/PaintedAccess.h"
 #include "ui/widgets/SkinButton.h"
 
 #include <QCloseEvent>
@@ -55,6 +56,7 @@ Frm_Main::Frm_Main(Navigator &navigator)
     , XBtn_Sys_Min(new SkinButton(u"XBtn_Sys_Min"_s, tr("Mi&nimize"), this))
     , XBtn_Sys_Close(new SkinButton(u"XBtn_Sys_Close"_s, tr("C&lose"), this))
 {
+    Public_Function::SetAccessibleRole(this, QAccessible::Window);
     setObjectName(u"Frm_Main"_s);
     setWindowTitle(u"Quorvex"_s);
     setAttribute(Qt::WA_OpaquePaintEvent);

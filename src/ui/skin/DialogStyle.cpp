@@ -69,7 +69,7 @@ void Public_Function::StyleDialogList(QListWidget *list, const QColor &backgroun
                         u"QListWidget::item { padding: 4px 6px; border-radius: 3px; color: rgb(40, 46, 58); }"
                         "QListWidget::item:hover { background: rgba(62, 84, 122, 22); }"
                         "QListWidget::item:selected { background: rgb(62, 84, 122); color: white; }"
-                        "QListWidget::item:selected:!active { background: rgb(112, 128, 156); }"_s +
+                        "QListWidget::item:selected:!active { background: rgb(98, 114, 143); }"_s +
                         ScrollBarStyle());
 }
 
@@ -79,6 +79,11 @@ void Public_Function::StyleDialogBox(QLineEdit *box)
     box->setStyleSheet(BoxStyle(Qt::white).replace("%2"_L1, "QLineEdit"_L1) +
                        u"QLineEdit:disabled { background: rgb(233, 233, 233); color: rgb(150, 156, 168);"
                        " border-color: rgb(190, 196, 208); }"_s);
+    // The style would make it half transparent, which is too pale to read.
+    box->ensurePolished();
+    QPalette colors = box->palette();
+    colors.setColor(QPalette::PlaceholderText, QColor(96, 102, 116));
+    box->setPalette(colors);
 }
 
 void Public_Function::StyleDialogPage(QAbstractScrollArea *page)

@@ -2,6 +2,7 @@
 
 #include "ui/skin/Fonts.h"
 #include "ui/widgets/ChartPainter.h"
+#include "ui/widgets/PaintedAccess.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -13,6 +14,7 @@ Chart::Chart(const QString &objectName, const QString &accessibleName, QWidget *
     : QWidget(parent)
     , m_textFont(Public_Function::InterfaceFont(9))
 {
+    Public_Function::SetAccessibleRole(this, QAccessible::Chart);
     setObjectName(objectName);
     setAccessibleName(accessibleName);
 }

@@ -2,6 +2,7 @@
 
 #include "ui/skin/Fonts.h"
 #include "ui/skin/StatusTexts.h"
+#include "ui/widgets/PaintedAccess.h"
 
 #include <QPainter>
 
@@ -18,6 +19,7 @@ constexpr int SignGap = 8;  ///< at least, behind the phonetic symbol
 ExplanationPanel::ExplanationPanel(QWidget *parent)
     : QWidget(parent)
 {
+    Public_Function::SetAccessibleRole(this, QAccessible::StaticText);
     setObjectName(u"picExplanation"_s);
     setAccessibleName(tr("Explanation"));
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -1,6 +1,7 @@
 #include "ui/widgets/HandsPicture.h"
 
 #include "ui/skin/SkinLibrary.h"
+#include "ui/widgets/PaintedAccess.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -10,6 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 HandsPicture::HandsPicture(QWidget *parent)
     : QWidget(parent)
 {
+    Public_Function::SetAccessibleRole(this, QAccessible::Graphic);
     setObjectName(u"picActivateFinger"_s);
     setAccessibleName(tr("Finger to use"));
     resize(sizeHint());

@@ -1,5 +1,7 @@
 #include "ui/widgets/KeyCap.h"
 
+#include "ui/widgets/PaintedAccess.h"
+
 #include <QPainter>
 
 using namespace Qt::Literals::StringLiterals;
@@ -8,6 +10,7 @@ KeyCap::KeyCap(int index, KeyCapLook &look, QWidget *parent)
     : QWidget(parent)
     , m_look(look)
 {
+    Public_Function::SetAccessibleRole(this, QAccessible::StaticText);
     setObjectName(u"PromptKey"_s + QString::number(index));
     setAttribute(Qt::WA_OpaquePaintEvent);
 }

@@ -2,6 +2,7 @@
 
 #include "core/drills/KeyDrillSession.h"
 #include "ui/skin/Fonts.h"
+#include "ui/widgets/PaintedAccess.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -13,6 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 OnScreenKeys::OnScreenKeys(const QString &objectName, const QString &accessibleName, QWidget *parent)
     : QWidget(parent)
 {
+    Public_Function::SetAccessibleRole(this, QAccessible::Graphic);
     setObjectName(objectName);
     setAccessibleName(accessibleName);
     setFocusPolicy(Qt::NoFocus);

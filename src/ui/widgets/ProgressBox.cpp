@@ -1,6 +1,7 @@
 #include "ui/widgets/ProgressBox.h"
 
 #include "ui/skin/SkinLibrary.h"
+#include "ui/widgets/PaintedAccess.h"
 
 #include <QPainter>
 
@@ -9,6 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 ProgressBox::ProgressBox(QWidget *parent)
     : QWidget(parent)
 {
+    Public_Function::SetAccessibleRole(this, QAccessible::ProgressBar);
     setObjectName(u"picProgress"_s);
     setAccessibleName(tr("Progress"));
     setToolTip(u"00 %"_s);

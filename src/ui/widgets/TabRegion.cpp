@@ -11,6 +11,7 @@ TabRegion::TabRegion(const QString &objectName, const QString &accessibleName, c
     setAccessibleName(accessibleName);
     setFocusPolicy(Qt::NoFocus);
     setCheckable(true);
+    setAutoExclusive(true); // one of several, to those who cannot see it
     SetOwn(false);
     setGeometry(corners.boundingRect());
     // The tabs' slanted sides interlock; the mask leaves its neighbour's part of the rectangle to the

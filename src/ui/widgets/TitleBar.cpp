@@ -1,5 +1,7 @@
 #include "ui/widgets/TitleBar.h"
 
+#include "ui/widgets/PaintedAccess.h"
+
 #include <QMouseEvent>
 #include <QWindow>
 
@@ -8,6 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 TitleBar::TitleBar(QWidget *window)
     : QWidget(window)
 {
+    Public_Function::SetAccessibleRole(this, QAccessible::TitleBar);
     setObjectName(u"ImgTitleBar"_s);
 }
 

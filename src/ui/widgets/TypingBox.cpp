@@ -2,6 +2,7 @@
 
 #include "ui/skin/WindowFrame.h"
 #include "ui/widgets/KeyStroke.h"
+#include "ui/widgets/PaintedAccess.h"
 
 #include <QGuiApplication>
 #include <QInputMethod>
@@ -27,6 +28,7 @@ bool IsEnter(const QKeyEvent *event)
 TypingBox::TypingBox(const QString &objectName, QWidget *parent)
     : QWidget(parent)
 {
+    Public_Function::SetAccessibleRole(this, QAccessible::EditableText);
     setObjectName(objectName);
     setAccessibleName(tr("Type here"));
     setAttribute(Qt::WA_InputMethodEnabled);

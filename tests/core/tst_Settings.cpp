@@ -123,8 +123,7 @@ private Q_SLOTS:
     {
         SettingFile settings(Path());
         settings.Set(u"Main"_s, u"EnSound"_s, 2);
-        const WriteFault fault{WriteFault::Step::Write, WriteFault::Kind::Fail, 3};
-        QVERIFY(!WithFault(fault, [&] { return settings.Save(); }));
+        QVERIFY(!WithFault({3}, [&] { return settings.Save(); }));
         QVERIFY(settings.Save()); // what could not be written was not forgotten
         QCOMPARE(SettingFile(Path()).Integer(u"Main"_s, u"EnSound"_s, 1), 2);
         settings.Set(u"Main"_s, u"EnSound"_s, 0);

@@ -224,12 +224,12 @@ private:
                              part->role() == QAccessible::ProgressBar;
         if (painted && (name.isEmpty() || (description.isEmpty() && !qobject_cast<const QLabel *>(widget))))
             complain(u"a picture that is not described"_s);
+        if (!name.isEmpty() && description == name)
+            complain(u"said twice"_s);
         if (!button || !button->isEnabled())
             return;
         if (!IsReached(button) && button->shortcut().isEmpty() && button->accessibleDescription().isEmpty())
             complain(u"no key leads there"_s);
-        if (description == name)
-            complain(u"said twice"_s);
     }
     /// No two buttons are called the same, and none have the same key.
     void LookForTwins()

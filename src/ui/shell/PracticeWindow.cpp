@@ -152,7 +152,9 @@ void PracticeWindow::ShowLessonTitle(const QString &title)
 {
     labLessonMsg->setText(
         labLessonMsg->fontMetrics().elidedText(title, Qt::ElideRight, labLessonMsg->width()));
-    labLessonMsg->setToolTip(title);
+    // A title that is shown whole need not be said twice.
+    labLessonMsg->setAccessibleName(title);
+    labLessonMsg->setToolTip(labLessonMsg->text() == title ? QString() : title);
 }
 
 void PracticeWindow::ShowHint(const QString &text)

@@ -102,3 +102,22 @@ class Keyboard(Journey):
         p.wait_active("Quorvex", "frame")
         p.keys("alt+F4")
         self.assertEqual(p.ended(), 0)
+
+    def test_alt_leads_on_through_an_input_method(self):
+        p = self.program
+        pinyin = self.start_pinyin()
+        p.open()
+        p.log_in("anna")
+        p.keys("alt+e")
+        p.wait_active(JUNIOR)
+        p.keys("alt+l")
+        self.focused("Lessons")
+        p.keys("Escape")
+        p.wait_active(JUNIOR)
+        p.keys("alt+b")
+        p.wait_active("Quorvex", "frame")
+        p.keys("alt+s")
+        p.wait_active(TEST)
+        pinyin.switch()
+        p.keys("alt+t")
+        p.wait_active("Top List")

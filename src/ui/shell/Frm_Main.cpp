@@ -151,6 +151,10 @@ void Frm_Main::LayoutMainMenu()
     Img_Sys_Menu->setAutoRaise(true);
     Img_Sys_Menu->setIcon(windowIcon().isNull() ? QIcon(u":/message/APP_ICON.png"_s) : windowIcon());
     Img_Sys_Menu->setIconSize(QSize(18, 18));
+    Img_Sys_Menu->setStyleSheet(u"QToolButton { border: 2px solid transparent; border-radius: 4px; }"
+                                "QToolButton:hover { background: rgba(255, 255, 255, 48); }"
+                                "QToolButton:focus { border-color: %1; }"_s.arg(
+                                    library.Color(u"focus"_s, QColor(255, 164, 84)).name()));
     Img_Sys_Menu->setGeometry(5, 7, 24, 24);
 }
 

@@ -82,112 +82,76 @@ private Q_SLOTS:
         QCOMPARE(index, tokens.size());
     }
 
-    void LongWordIsMeasuredInFewSteps()
-    {
-        const TestInstall install;
-        Article article;
-        QVERIFY(article.InitArticleData(install.Write(u"a.txt"_s, QByteArray(10'000, 'w') + " b")));
-        int measured = 0;
-        const LineMeasure measure{[&](const QString &text) {
-                                      ++measured;
-                                      return static_cast<int>(text.size()) * 20;
-                                  },
-                                  801};
-        int index = 0;
-        QCOMPARE(Shown(article.BuildTextLine(index, measure)), QString(40, u'w') + u'/');
-        QCOMPARE(index, 1);
-        QVERIFY(measured < 12);
-    }
-
     void Types_data()
     {
-        QTest::addColumn<int>("form");
+        QTest::addColumn<QList<int>>("forms");
         QTest::addColumn<QString>("keys");     // < Backspace, / Enter
         QTest::addColumn<QString>("outcome");  // what each did
         QTest::addColumn<QList<int>>("place"); // line, column, word, total, correct
-        const QList<int> start{0, 0, 0, 0, 0};
-        for (const int form : {3, 4, 5}) {
-            const auto row = [form](const char *name, const QString &keys, const QString &outcome,
-                                    const QList<int> &place) {
-                QTest::addRow("%s, form %d", name, form) << form << keys << outcome << place;
-            };
-            row("right and wrong", u"aX"_s, u"+-"_s, {0, 2, 0, 2, 1});
-            row("space counts a word", u"ab c"_s, u"++++"_s, {0, 4, 1, 4, 4});
-            row("Enter in a line", u"a/"_s, u"+."_s, {0, 1, 0, 1, 1});
-            row("only Enter or Space end a line", u"ab cdx/"_s, u"+++++.+"_s, {1, 0, 1, 6, 6});
-            row("Space ends a line", u"ab cd "_s, u"++++++"_s, {1, 0, 1, 6, 6});
-            row("back at a line end", u"ab cd<"_s, u"+++++<"_s, {0, 4, 1, 5, 5});
-            row("back at the start", u"<a<<"_s, u".+<."_s, {0, 0, 0, 1, 1});
-        }
-        const QString line = u"ab cd/"_s;
-        QTest::newRow("no way back into a pair")
-            << 3 << line + u"<"_s << u"++++++."_s << QList<int>{1, 0, 1, 6, 6};
-        QTest::newRow("back over a line end")
-            << 4 << line + u"<<"_s << u"++++++<<"_s << QList<int>{0, 4, 1, 6, 6};
-        QTest::newRow("back onto the line feed")
-            << 5 << line + u"<"_s << u"++++++<"_s << QList<int>{0, 6, 1, 6, 6};
-        QTest::newRow("over the carriage return")
-            << 5 << line + u"<<"_s << u"++++++<<"_s << QList<int>{0, 4, 1, 6, 6};
-        QTest::newRow("nothing is right on a line feed")
-            << 5 << line + u"</x"_s << u"++++++<.-"_s << QList<int>{1, 0, 1, 7, 6};
-        QTest::newRow("Escape in a field") << 3 << u"\u001b"_s << u"."_s << start;
-        QTest::newRow("Escape over the text") << 5 << u"\u001b"_s << u"-"_s << QList<int>{0, 1, 0, 1, 0};
+        const auto row = [](const char *name, const QList<int> &forms, const QString &keys,
+                            const QString &outcome, const QList<int> &place) {
+            QTest::newRow(name) << forms << keys << outcome << place;
+        };
+        const QList<int> all{3, 4, 5};
+        row("right and wrong", all, u"aX"_s, u"+-"_s, {0, 2, 0, 2, 1});
+        row("space counts a word", all, u"ab c"_s, u"++++"_s, {0, 4, 1, 4, 4});
+        row("Enter in a line", all, u"a/"_s, u"+."_s, {0, 1, 0, 1, 1});
+        row("only Enter or Space end a line", all, u"ab cdx/"_s, u"+++++.+"_s, {1, 0, 1, 6, 6});
+        row("Space ends a line", all, u"ab cd "_s, u"++++++"_s, {1, 0, 1, 6, 6});
+        row("back at a line end", all, u"ab cd<"_s, u"+++++<"_s, {0, 4, 1, 5, 5});
+        row("back at the start", all, u"<a<<"_s, u".+<."_s, {0, 0, 0, 1, 1});
+        row("no way back into a pair", {3}, u"ab cd/<"_s, u"++++++."_s, {1, 0, 1, 6, 6});
+        row("back over a line end", {4}, u"ab cd/<<"_s, u"++++++<<"_s, {0, 4, 1, 6, 6});
+        row("back onto the line feed", {5}, u"ab cd/<"_s, u"++++++<"_s, {0, 6, 1, 6, 6});
+        row("over the carriage return", {5}, u"ab cd/<<"_s, u"++++++<<"_s, {0, 4, 1, 6, 6});
+        row("nothing is right on a line feed", {5}, u"ab cd/</x"_s, u"++++++<.-"_s, {1, 0, 1, 7, 6});
+        row("Escape in a field", {3}, u"\u001b"_s, u"."_s, {0, 0, 0, 0, 0});
+        row("Escape over the text", {5}, u"\u001b"_s, u"-"_s, {0, 1, 0, 1, 0});
     }
 
     void Types()
     {
-        QFETCH(int, form);
+        QFETCH(QList<int>, forms);
         QFETCH(QString, keys);
-        QFETCH(QString, outcome);
-        QFETCH(QList<int>, place);
-        ArticleSession session = Begin(form, "ab cd\nef\ngh\nij\nkl\nmn\n");
-        QString did;
-        for (const char32_t key : keys.toStdU32String())
-            did += Did(session.TypeCharacter(key == U'<' ? 8 : key == U'/' ? U'\r' : key));
-        QCOMPARE(did, outcome);
-        QCOMPARE(QList<int>({session.CurrentLine(), session.Column(), session.GetTextIndexAt(),
-                             session.TotalKeys(), session.CorrectKeys()}),
-                 place);
-    }
-
-    void TurnsPagesAndEnds_data()
-    {
-        QTest::addColumn<int>("form");
-        QTest::addColumn<int>("lines");    // of one word each
-        QTest::addColumn<QString>("ends"); // after each line
-        QTest::addColumn<int>("index");    // of the word reached then
-        QTest::newRow("pairs, within a page") << 3 << 2 << u" D"_s << 0;
-        QTest::newRow("pairs, at a page's end") << 3 << 5 << u"    D"_s << 14;
-        QTest::newRow("pairs, on the next page") << 3 << 6 << u"    nD"_s << 15;
-        QTest::newRow("page with input") << 4 << 6 << u"   n D"_s << 17;
-        QTest::newRow("in place") << 5 << 11 << u"         nD"_s << 30;
+        for (const int form : forms) {
+            ArticleSession session = Begin(form, "ab cd\nef\ngh\nij\nkl\nmn\n");
+            QString did;
+            for (const char32_t key : keys.toStdU32String()) {
+                const auto outcome = session.TypeCharacter(key == U'<' ? 8 : key == U'/' ? U'\r' : key);
+                did += u".+-<"_s.at(static_cast<int>(outcome.kind));
+            }
+            QTEST(did, "outcome");
+            QTEST(QList<int>({session.CurrentLine(), session.Column(), session.GetTextIndexAt(),
+                              session.TotalKeys(), session.CorrectKeys()}),
+                  "place");
+        }
     }
 
     void TurnsPagesAndEnds()
     {
-        QFETCH(int, form);
-        QFETCH(int, lines);
-        QFETCH(QString, ends);
-        QFETCH(int, index);
-        ArticleSession session = Begin(form, QByteArray("a\n\n").repeated(lines).chopped(1));
-        QString found;
-        for (int i = 0; i < lines; ++i) {
-            session.TypeCharacter(U'a');
-            const auto then = session.TypeCharacter(U'\r').then;
-            found += u" nD"_s.at(static_cast<int>(then));
+        // Form, what happens after each line of one word (n: the next page, D: done), the word reached then.
+        using Row = std::tuple<int, QString, int>;
+        for (const auto &[form, ends, index] :
+             {Row{3, u" D"_s, 0}, Row{3, u"    D"_s, 14}, Row{3, u"    nD"_s, 15}, Row{4, u"   n D"_s, 17},
+              Row{5, u"         nD"_s, 30}}) {
+            ArticleSession session = Begin(form, QByteArray("a\n\n").repeated(ends.size()).chopped(1));
+            QString found;
+            while (found.size() < ends.size()) {
+                session.TypeCharacter(U'a');
+                found += u" nD"_s.at(static_cast<int>(session.TypeCharacter(U'\r').then));
+            }
+            QCOMPARE(found, ends);
+            QCOMPARE(session.GetTextIndexAt(), index);
+            // Once more, when there is nothing to type any more.
+            QCOMPARE(session.TypeCharacter(U'a').then, ArticleSession::Outcome::Then::ArticleDone);
+            const int correct = session.CorrectKeys();
+            session.Restart();
+            QCOMPARE(session.GetTextIndexAt(), 0);
+            QCOMPARE(session.CorrectKeys(), correct);
         }
-        QCOMPARE(found, ends);
-        QCOMPARE(session.GetTextIndexAt(), index);
-        // Once more, when there is nothing to type any more.
-        QCOMPARE(session.TypeCharacter(U'a').then, ArticleSession::Outcome::Then::ArticleDone);
-        const int correct = session.CorrectKeys();
-        session.Restart();
-        QCOMPARE(session.GetTextIndexAt(), 0);
-        QCOMPARE(session.CorrectKeys(), correct);
     }
 
 private:
-    static QChar Did(ArticleSession::Outcome outcome) { return u".+-<"_s.at(static_cast<int>(outcome.kind)); }
     static ArticleSession Begin(int form, const QByteArray &bytes)
     {
         const TestInstall install;

@@ -1,74 +1,52 @@
 #include "fuzz/FuzzTarget.h"
 
+#include <QHash>
 #include <cstdio>
 #include <cstdlib>
-#include <vector>
 #ifdef QUORVEX_FUZZ
 #include <sanitizer/allocator_interface.h>
 #endif
 
 namespace {
 
-std::vector<const FuzzTarget *> &Targets()
+QHash<QByteArray, const FuzzTarget *> &Targets()
 {
-    static std::vector<const FuzzTarget *> targets;
+    static QHash<QByteArray, const FuzzTarget *> targets;
     return targets;
 }
 
-/// The memory that this thread has taken and not given back since the last call of Begin, and the most of it.
-class Memory
-{
-public:
-    static void Begin()
-    {
+/// The memory that this thread has taken and not given back while a reader reads, and the most of it.
+thread_local std::ptrdiff_t memory = 0;
+thread_local std::ptrdiff_t mostMemory = 0;
+
 #ifdef QUORVEX_FUZZ
-        static const int installed = __sanitizer_install_malloc_and_free_hooks(
-            [](const volatile void *, std::size_t size) { Count(static_cast<std::ptrdiff_t>(size)); },
-            [](const volatile void *block) {
-                if (block)
-                    Count(-static_cast<std::ptrdiff_t>(__sanitizer_get_allocated_size(block)));
-            });
-        Require(installed > 0, "memory is counted");
+void Count(std::ptrdiff_t bytes)
+{
+    memory += bytes;
+    mostMemory = std::max(mostMemory, memory);
+}
+
+const int counted = __sanitizer_install_malloc_and_free_hooks(
+    [](const volatile void *, std::size_t size) { Count(static_cast<std::ptrdiff_t>(size)); },
+    [](const volatile void *block) {
+        if (block)
+            Count(-static_cast<std::ptrdiff_t>(__sanitizer_get_allocated_size(block)));
+    });
+#else
+constexpr int counted = 1;
 #endif
-        now = 0;
-        most = 0;
-    }
-
-    static std::ptrdiff_t Most()
-    {
-        return most;
-    }
-
-private:
-    [[maybe_unused]] static void Count(std::ptrdiff_t bytes)
-    {
-        now += bytes;
-        most = std::max(most, now);
-    }
-
-    static thread_local std::ptrdiff_t now;
-    static thread_local std::ptrdiff_t most;
-};
-
-thread_local std::ptrdiff_t Memory::now = 0;
-thread_local std::ptrdiff_t Memory::most = 0;
 
 } // namespace
 
 FuzzTarget::FuzzTarget(const char *name, Reader read)
-    : m_name(name)
-    , m_read(read)
+    : m_read(read)
 {
-    Targets().push_back(this);
+    Targets()[name] = this;
 }
 
 const FuzzTarget *FuzzTarget::Find(const QByteArray &name)
 {
-    for (const FuzzTarget *target : Targets()) {
-        if (target->m_name == name)
-            return target;
-    }
-    return nullptr;
+    return Targets().value(name);
 }
 
 void FuzzTarget::Feed(const QByteArray &bytes) const
@@ -77,9 +55,10 @@ void FuzzTarget::Feed(const QByteArray &bytes) const
     // cache of pages has up to two megabytes.
     constexpr qsizetype perByte = 200;
     constexpr qsizetype atLeast = qsizetype(8) << 20;
-    Memory::Begin();
+    Require(counted > 0, "memory is counted");
+    memory = mostMemory = 0;
     m_read(bytes);
-    Require(Memory::Most() <= atLeast + perByte * bytes.size(), "memory stays within bounds");
+    Require(mostMemory <= atLeast + perByte * bytes.size(), "memory stays within bounds");
 }
 
 void Require(bool kept, const char *promise)

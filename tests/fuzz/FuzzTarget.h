@@ -19,7 +19,6 @@ public:
     void Feed(const QByteArray &bytes) const;
 
 private:
-    const char *m_name;
     Reader m_read;
 };
 

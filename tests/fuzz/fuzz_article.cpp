@@ -9,33 +9,25 @@ namespace {
 /// Characters beyond ASCII are two wide.
 int ArticleWidth(const QString &text)
 {
-    qsizetype width = 0;
-    for (const QChar c : text)
-        width += c < QChar(128) ? 1 : 2;
-    return static_cast<int>(width);
-}
-
-void CheckLine(const std::u32string &line, const LineMeasure &measure)
-{
-    Require(line.ends_with(U"\r\n") && line.size() > 2, "a line has characters and an end");
-    const QString text = QString::fromStdU32String(line.substr(0, line.size() - 2));
-    Require(text.isValidUtf16() && text.toStdU32String().size() + 2 == line.size(), "no character is cut");
-    Require(measure.widthOf(text) <= measure.boxWidth, "a line is no wider than its box");
-    Require(text.size() <= Article::MostCharacters, "a line is no longer than any box");
-    for (const QChar c : text)
-        Require(c == u' ' || !(c.isSpace() || c.category() == QChar::Other_Control),
-                "every character has a key");
+    const auto wide = std::ranges::count_if(text, [](QChar c) { return c >= QChar(128); });
+    return static_cast<int>(text.size() + wide);
 }
 
 void CheckLines(const Article &article, const LineMeasure &measure)
 {
     int index = 0;
-    for (int before = 0;; before = index) {
-        const std::u32string line = article.BuildTextLine(index, measure);
-        if (line.empty())
-            break;
+    int before = 0;
+    for (std::u32string line; !(line = article.BuildTextLine(index, measure)).empty(); before = index) {
         Require(index > before && index <= article.TokenCount(), "a line takes a word");
-        CheckLine(line, measure);
+        Require(line.ends_with(U"\r\n") && line.size() > 2, "a line has characters and an end");
+        const QString text = QString::fromStdU32String(line.substr(0, line.size() - 2));
+        Require(text.isValidUtf16() && text.toStdU32String().size() + 2 == line.size(),
+                "no character is cut");
+        Require(measure.widthOf(text) <= measure.boxWidth, "a line is no wider than its box");
+        Require(text.size() <= Article::MostCharacters, "a line is no longer than any box");
+        for (const QChar c : text)
+            Require(c == u' ' || !(c.isSpace() || c.category() == QChar::Other_Control),
+                    "every character has a key");
     }
     Require(index == article.TokenCount(), "lines take every word");
 }
@@ -71,12 +63,12 @@ void ReadArticle(const QByteArray &bytes)
         Require(article.TokenCount() <= bytes.size() + 1, "a token is made of the text");
         for (int index = 0; index < article.TokenCount(); ++index)
             Require(!article.Token(index).isEmpty(), "a token has characters");
-        CheckLines(article, narrow);
-        CheckLines(article, wide);
-        if (article.TokenCount() == 0)
-            continue;
-        TypeArticle(article, narrow, DisplayForm::PageAndInput);
-        TypeArticle(article, wide, DisplayForm::InPlace);
+        for (const auto &[measure, form] :
+             {std::pair(narrow, DisplayForm::PageAndInput), {wide, DisplayForm::InPlace}}) {
+            CheckLines(article, measure);
+            if (article.TokenCount() > 0)
+                TypeArticle(article, measure, form);
+        }
     }
 }
 

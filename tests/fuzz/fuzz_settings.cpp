@@ -3,9 +3,13 @@
 #include "core/drills/WordTrainPlace.h"
 #include "core/shell/SettingFile.h"
 #include "core/shell/UserSettings.h"
+#include "core/speedtest/TestMaterial.h"
 #include "fuzz/FuzzTarget.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
 #include "support/TestInstall.h"
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,45 +24,30 @@ QStringList StoredLines()
 /// The most that a value holds, and the end that it cannot hold.
 QString AsStored(const QString &value)
 {
-    constexpr qsizetype longest = 1023;
-    qsizetype end = 0;
-    while (end < value.size() && value[end] != u'\0')
-        ++end;
-    QList<uint> characters = value.first(end).toUcs4();
-    characters.resize(std::min(characters.size(), longest));
-    return QString::fromUcs4(reinterpret_cast<const char32_t *>(characters.constData()), characters.size());
-}
-
-/// What the windows take from the file.
-void LoadEverything()
-{
-    Public_Function::LoadSoundSetting();
-    Public_Function::LoadTestSetting();
-    Require(Shared().LimitTime >= 0 && Shared().EnSound >= 0 && Shared().NewLine >= 0,
-            "no number is negative");
-    LoadWordTrainPlace();
-    LoadArticlePlace();
+    const std::u32string characters = value.section(QChar(u'\0'), 0, 0).toStdU32String();
+    return QString::fromStdU32String(characters.substr(0, 1023));
 }
 
 /// All lines but one stay.
 void CheckOtherLines(const QStringList &before, const QStringList &after)
 {
-    qsizetype start = 0;
-    while (start < before.size() && start < after.size() && before[start] == after[start])
-        ++start;
-    qsizetype end = 0;
-    while (end < before.size() - start && end < after.size() - start &&
-           before[before.size() - 1 - end] == after[after.size() - 1 - end])
-        ++end;
-    Require(before.size() - start - end <= 1, "only the line of the key is changed");
-    Require(after.size() - start - end <= 2, "only a key and its section are added");
+    const auto start = std::ranges::mismatch(before, after);
+    const auto end = std::mismatch(before.rbegin(), std::make_reverse_iterator(start.in1), after.rbegin(),
+                                   std::make_reverse_iterator(start.in2));
+    Require(end.first.base() - start.in1 <= 1, "only the line of the key is changed");
+    Require(end.second.base() - start.in2 <= 2, "only a key and its section are added");
 }
 
 void ReadSettings(const QByteArray &bytes)
 {
     static const TestInstall install(u"Ann"_s);
     install.Write(u"Users/Ann/Setting.ini"_s, bytes);
-    LoadEverything();
+    Public_Function::LoadSoundSetting();
+    Public_Function::LoadTestSetting();
+    Require(Shared().LimitTime >= 0 && Shared().EnSound >= 0 && Shared().NewLine >= 0,
+            "no number is negative");
+    LoadWordTrainPlace();
+    LoadArticlePlace();
 
     const QStringList before = StoredLines();
     const QString value = before.isEmpty() ? QString() : before.last();
@@ -79,5 +68,20 @@ void ReadSettings(const QByteArray &bytes)
 }
 
 const FuzzTarget settingsTarget("settings", ReadSettings);
+
+/// A path that is kept in the settings, which people may change.
+void ReadPath(const QByteArray &bytes)
+{
+    static const TestInstall install;
+    static const QString lesson = install.Write(u"Data/English/Professional/Law/1.txt"_s, "law");
+    const QString path = QString::fromUtf8(bytes.left(2000));
+    const QString moved = Public_Function::FindMovedPath(path);
+    Require(moved == path || Public_Function::PathExists(moved), "a path is changed to one that exists");
+    const TestMaterial::Place place = TestMaterial::PlaceOf(path);
+    Require(!place.folder.contains(u'\\') && !place.folder.contains(u'/'), "a field is one folder");
+    TestMaterial::Files(place);
+}
+
+const FuzzTarget pathsTarget("paths", ReadPath);
 
 } // namespace

@@ -8,22 +8,9 @@
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace Public_Function;
 
 namespace {
-
-int ColumnsOf(std::u32string_view line)
-{
-    int width = 0;
-    for (const char32_t c : line)
-        width += Public_Function::GetTextWidth(c);
-    return width;
-}
-
-bool IsOneUnit(std::u32string_view line)
-{
-    return line.size() == 1 ||
-           std::all_of(line.begin(), line.end(), [](char32_t c) { return Public_Function::IsLetter(c); });
-}
 
 /// The characters of the text as they are to be typed.
 std::u32string Expected(const QString &text)
@@ -67,10 +54,15 @@ void ReadTestText(const QByteArray &bytes)
         std::u32string all;
         for (int number = 1; number <= test.LineCount(); ++number) {
             const std::u32string_view line = test.TestLine(number);
-            Require(ColumnsOf(line) < most || IsOneUnit(line), "a line is narrower than its box");
+            int columns = 0;
+            for (const char32_t c : line)
+                columns += GetTextWidth(c);
+            Require(columns < most || line.size() == 1 ||
+                        std::ranges::all_of(line, [](char32_t c) { return IsLetter(c); }),
+                    "a line of several units is narrower than its box");
             all += line;
         }
-        Require(all == Expected(*Public_Function::ReadTextFile(path)), "lines hold every character");
+        Require(all == Expected(*ReadTextFile(path)), "lines hold every character");
         TypeText(test);
     }
 }

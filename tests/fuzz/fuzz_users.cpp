@@ -26,10 +26,9 @@ void ReadUsers(const QByteArray &bytes)
 {
     static const TestInstall install;
     install.Write(u"keep"_s, "keep");
-    const auto isListed = [] { return Public_Function::ReadTextFile(Shared().InstallDir + u"user.ini"_s); };
     // The first line is a name that somebody types.
     install.Write(u"user.ini"_s, bytes);
-    const QStringList lines = Public_Function::SplitLines(isListed().value_or(QString()));
+    const QStringList lines = Public_Function::SplitLines(Public_Function::DecodeText(bytes));
     AddAndDelete(lines.isEmpty() ? QString() : lines.first());
     install.Write(u"user.ini"_s, QByteArray());
     AddAndDelete(lines.isEmpty() ? QString() : lines.last());

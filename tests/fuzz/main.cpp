@@ -31,13 +31,6 @@ QByteArray BytesOf(const QString &path)
     return file.readAll();
 }
 
-int Replay(const QStringList &files)
-{
-    for (const QString &path : files)
-        chosen->Feed(BytesOf(path));
-    return files.isEmpty() ? 1 : 0;
-}
-
 /// Milliseconds for a file of that size that repeats these bytes.
 qint64 TimeFor(const QByteArray &bytes, qsizetype size)
 {
@@ -60,8 +53,7 @@ int ReplayEnlarged(const QStringList &files)
         const qint64 once = TimeFor(bytes, size);
         const qint64 enlarged = TimeFor(bytes, 4 * size);
         if (enlarged > 500 && enlarged > 10 * once) {
-            std::fprintf(stderr, "Slow: %lld ms, then %lld ms\n", static_cast<long long>(once),
-                         static_cast<long long>(enlarged));
+            qWarning("Slow: %lld ms, then %lld ms", once, enlarged);
             ++slow;
         }
     }
@@ -86,8 +78,12 @@ void ReadArguments(int count, char **arguments, bool replay)
         std::fprintf(stderr, "usage: quorvex-fuzz --target=NAME [--enlarged] FOLDER...\n");
         std::exit(2);
     }
-    if (replay || enlarged)
-        std::exit(enlarged ? ReplayEnlarged(files) : Replay(files));
+    if (enlarged)
+        std::exit(ReplayEnlarged(files));
+    for (const QString &path : replay ? files : QStringList())
+        chosen->Feed(BytesOf(path));
+    if (replay)
+        std::exit(files.isEmpty() ? 1 : 0);
 }
 
 } // namespace

@@ -1,40 +1,31 @@
-#include "core/records/IUserRecord.h"
-#include "core/shell/SettingFile.h"
-#include "core/shell/UserSettings.h"
-#include "support/Fakes.h"
-#include "support/SkinnedInstall.h"
+#include "core/records/RecordFile.h"
+#include "support/KeyDrillTest.h"
 #include "ui/drills/ArticleBox.h"
 #include "ui/drills/frmEn_ArticleTrain.h"
 #include "ui/widgets/TypingLine.h"
 
-#include <QtTest>
-#include <QtWidgets>
-
 using namespace Qt::Literals::StringLiterals;
 
 /// The text drill of the user Ann, as a person sees and uses it.
-class tst_ArticleDrill : public QObject
+class tst_ArticleDrill : public KeyDrillTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_services.emplace();
-        m_install.emplace(u"Ann"_s);
-        m_navigator.emplace();
-        m_messages.emplace();
+        SetUp();
         m_messages->answer = Public_Function::MessageNo;
         WriteArticle("1.txt", "ab cd\r\n\r\nef gh\r\n");
     }
-    void cleanup() { delete m_drill; }
+    void cleanup() { TearDown(); }
 
     void TakesTheStoredForm()
     {
         using Row = std::pair<QString, int>; // stored, boxes
         for (const auto &[stored, boxes] :
              {Row{QString(), 2}, Row{u"7"_s, 10}, Row{u"3"_s, 10}, Row{u"5"_s, 1}, Row{u"x"_s, 10}}) {
-            Open(stored);
+            OpenIn(stored);
             QCOMPARE(m_drill->findChildren<ArticleBox *>().size(), boxes);
             QCOMPARE(Text("labLessonMsg"), u"Typing Course \\ Text Drill --Adage：11.txt"_s);
             QCOMPARE(Shown(), QStringList({u"0:00:00"_s, u"0WPM"_s, u"0%"_s, u"0 %"_s}));
@@ -56,7 +47,7 @@ private Q_SLOTS:
     {
         QFETCH(int, form);
         QFETCH(QString, typed);
-        Open(QString::number(form));
+        OpenIn(QString::number(form));
         const int second = form == 3 ? 2 : 0;
         TypingLine *line = Row(0, 0);
         QCOMPARE(line->Mark(), 0);
@@ -100,25 +91,9 @@ private Q_SLOTS:
         QCOMPARE(Training(), QStringList(u"20 71 Adage：11.txt Text Training "_s));
     }
 
-    void StepsBackOverALineEndInPlace()
-    {
-        Open(u"5"_s);
-        Type(u"ab cd "_s);
-        Press(Qt::Key_Backspace);
-        TypingLine *line = Row(0, 0);
-        QCOMPARE(line->Text(), u"ab cd↵ "_s);
-        QCOMPARE(line->Mark(), 6);
-        Type(u"x"_s); // a line feed cannot be typed right
-        QCOMPARE(line->LookAt(6), TypingLine::Look::Wrong);
-        Press(Qt::Key_Backspace);
-        Press(Qt::Key_Backspace);
-        QCOMPARE(line->Mark(), 4);
-        QCOMPARE(line->LookAt(6), TypingLine::Look::Untyped);
-    }
-
     void AsksAtTheEnd()
     {
-        Open(u"3"_s);
+        OpenIn(u"3"_s);
         Type(u"ab cd ef g"_s);
         m_services->clock.Move(2);
         Status();
@@ -143,7 +118,7 @@ private Q_SLOTS:
         for (int i = 0; i < 40; ++i)
             article += "aa bb cc dd\n";
         WriteArticle("1.txt", article);
-        Open(u"4"_s);
+        OpenIn(u"4"_s);
         Type(u"aa bb cc dd aa b"_s);
         m_services->clock.Move(4);
         InDialog([](QWidget *dialog) {
@@ -169,7 +144,7 @@ private Q_SLOTS:
     {
         WriteArticle("2.txt", " \n\n");
         WriteArticle("3.txt", "zz\n");
-        Open();
+        OpenIn();
         Type(u"ab "_s);
         for (const int row : {1, 2}) {
             InDialog([row](QWidget *dialog) {
@@ -192,7 +167,7 @@ private Q_SLOTS:
     void ReportsAMissingArticle()
     {
         QVERIFY(QFile::remove(m_install->Native(ArticleFolder + u"1.txt"_s)));
-        Open();
+        OpenIn();
         QTRY_COMPARE(m_messages->texts.size(), 1);
         Type(u"ab"_s);
         QVERIFY(!IsRunning());
@@ -203,7 +178,7 @@ private Q_SLOTS:
         WriteArticle("1.txt",
                      (QByteArray("iiii MMMMM w. ").repeated(60) + QByteArray(10'000, 'W') + ' ').repeated(3));
         for (const int form : {3, 4, 5}) {
-            Open(QString::number(form));
+            OpenIn(QString::number(form));
             for (ArticleBox *box : m_drill->findChildren<ArticleBox *>()) {
                 TypingLine *line = box->Row(0);
                 QVERIFY(line->CellRect(line->Length()).right() < line->width());
@@ -223,80 +198,25 @@ private:
     {
         m_install->Write(ArticleFolder + QLatin1StringView(name), bytes);
     }
-    void Open(const QString &form = QString())
+    void OpenIn(const QString &form = QString())
     {
-        if (!form.isNull()) {
-            SettingFile file(Public_Function::SettingFilePath());
-            file.Set(u"English"_s, u"ArticleTrain_FormType"_s, form);
-            QVERIFY(file.Save());
-        }
-        m_drill = new frmEn_ArticleTrain(*m_navigator, &m_owner);
-        m_drill->ShowDrill();
-        QVERIFY(QTest::qWaitForWindowActive(m_drill));
-    }
-    void Leave()
-    {
-        m_drill->close();
-        QTRY_VERIFY(m_drill.isNull());
-    }
-    static QString Stored(const QString &key, const QString &section = u"English"_s)
-    {
-        return SettingFile(Public_Function::SettingFilePath()).Text(section, key, u"-"_s);
+        if (!form.isNull())
+            Store(u"ArticleTrain_FormType"_s, form);
+        Open<frmEn_ArticleTrain>();
     }
     QStringList Training() const
     {
-        IUserRecord records;
-        records.SetCurrentUser(u"Ann"_s);
-        records.OpenTrainingRecord(0);
         QStringList found;
-        for (int i = 0; i < records.TrainingRecordAmount(0); ++i) {
-            const auto record = records.GetTrainingRecord(0, i);
-            found += u"%1 %2 %3"_s.arg(record->Speed).arg(record->Rate).arg(record->Text);
-        }
+        for (const auto &record : RecordFile::DecodeTraining(m_install->Read(u"Users/Ann/RecordEN.Dat"_s)))
+            found += u"%1 %2 %3"_s.arg(record.Speed).arg(record.Rate).arg(record.Text);
         return found;
     }
-
-    void Type(const QString &text) { QTest::keyClicks(m_drill, text); }
-    void Press(Qt::Key key) { QTest::keyClick(m_drill, key); }
-    void Click(const char *name) { QTest::mouseClick(Part<QWidget>(name), Qt::LeftButton); }
-    void InDialog(std::function<void(QWidget *)> action)
-    {
-        QTimer::singleShot(0, this, [action] {
-            QWidget *dialog = QApplication::activeModalWidget();
-            if (dialog && QTest::qWaitFor([dialog] { return dialog->isActiveWindow(); }))
-                action(dialog);
-        });
-    }
-    template <typename T>
-    T *Part(const char *name) const
-    {
-        return m_drill->findChild<T *>(QString::fromLatin1(name));
-    }
-    QString Text(const char *label) const { return Part<QLabel>(label)->text(); }
-    ArticleBox *Box(int index) const { return Part<ArticleBox>(qPrintable(u"RTB%1"_s.arg(index))); }
+    ArticleBox *Box(int index) const { return m_drill->findChild<ArticleBox *>(u"RTB%1"_s.arg(index)); }
     TypingLine *Row(int box, int row) const { return Box(box)->Row(row); }
     QString Accessible(int box, QAccessible::Text kind) const
     {
         return QAccessible::queryAccessibleInterface(Box(box))->text(kind);
     }
-    bool IsRunning() const { return m_drill->findChild<QTimer *>()->isActive(); }
-    QStringList Status() const
-    {
-        QMetaObject::invokeMethod(m_drill->findChild<QTimer *>(), "timeout");
-        return Shown();
-    }
-    QStringList Shown() const
-    {
-        return {Text("labTime"), Text("labSpeed"), Text("labVeracity"),
-                Part<QWidget>("picProgress")->toolTip()};
-    }
-
-    std::optional<FakeServices> m_services;
-    std::optional<SkinnedInstall> m_install;
-    std::optional<FakeNavigator> m_navigator;
-    std::optional<FakeAnswers> m_messages;
-    QWidget m_owner;
-    QPointer<frmEn_ArticleTrain> m_drill;
 };
 
 QTEST_MAIN(tst_ArticleDrill)

@@ -1,15 +1,16 @@
+#include "support/Dialogs.h"
 #include "support/SkinnedInstall.h"
 #include "ui/drills/DlgEn_ArticleLesson.h"
 #include "ui/drills/DlgEn_ArticleTrainSetting.h"
 #include "ui/drills/DlgEn_WordLesson.h"
 #include "ui/drills/DlgEn_WordTrainSetting.h"
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QListWidget>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace Dialogs;
 
 class tst_DrillDialogs : public QObject
 {
@@ -58,20 +59,18 @@ private Q_SLOTS:
         auto *articles = Part<QComboBox>(dialog, "cbxFolder0");
         auto *professional = Part<QComboBox>(dialog, "cbxFolder1");
         const auto *files = Part<QListWidget>(dialog, "lstFile");
-        QCOMPARE(Texts(*files), u"1.txt 2.TXT 11.txt"_s);
+        QCOMPARE(Rows(files), u"*1.txt 2.TXT 11.txt"_s);
         QVERIFY(articles->isEnabled() && !professional->isEnabled());
 
         // A folder without texts leaves the list.
         Press(articles, Qt::Key_Down, 1);
         QCOMPARE(articles->currentText(), u"Bare"_s);
-        QCOMPARE(Texts(*files), u"1.txt 2.TXT 11.txt"_s);
+        QCOMPARE(Rows(files), u"*1.txt 2.TXT 11.txt"_s);
 
-        Part<QAbstractButton>(dialog, "OpnClass1")->click();
-        QCOMPARE(Texts(*files), u"one.txt two.txt"_s);
+        Click(dialog, "OpnClass1");
+        QCOMPARE(Rows(files), u"*one.txt two.txt"_s);
         QVERIFY(!articles->isEnabled() && professional->isEnabled());
-        const QPoint second = files->visualItemRect(files->item(1)).center();
-        QTest::mouseClick(files->viewport(), Qt::LeftButton, {}, second);
-        QTest::mouseDClick(files->viewport(), Qt::LeftButton, {}, second);
+        ClickRow(files, 1, true);
         QCOMPARE(dialog.ReturnValue(), DialogAnswer::Confirmed);
         QCOMPARE(dialog.ArticleFile(), Shared().InstallDir + u"Data\\English\\Professional\\Law\\two.txt"_s);
         QCOMPARE(dialog.ArticleMessage(), u"Law:two.txt"_s);
@@ -94,23 +93,21 @@ private Q_SLOTS:
         {
             int mode;
             int sound;
-            QByteArray clicks;
+            QByteArrayList clicks;
             QString checked;
             std::pair<int, int> result;
         };
         for (const auto &[mode, sound, clicks, checked, result] :
-             {Row{3, 0, "optUIStyle2 opnSetting1", u"optUIStyle0 opnSetting0"_s, {5, 1}},
-              Row{9, 2, "", u"optUIStyle1 opnSetting2"_s, {4, 2}}, Row{7, 5, "optUIStyle0", u""_s, {3, 5}},
-              Row{10, 1, "", u"optUIStyle2 opnSetting1"_s, {5, 1}}}) {
+             {Row{3, 0, {"optUIStyle2", "opnSetting1"}, u"optUIStyle0 opnSetting0"_s, {5, 1}},
+              Row{9, 2, {}, u"optUIStyle1 opnSetting2"_s, {4, 2}}, Row{7, 5, {"optUIStyle0"}, u""_s, {3, 5}},
+              Row{10, 1, {}, u"optUIStyle2 opnSetting1"_s, {5, 1}}}) {
             DlgEn_ArticleTrainSetting dialog(nullptr);
             dialog.SetTrainMode(mode);
             dialog.SetSoundEffect(sound);
             Show(dialog);
-            QCOMPARE(Checked(dialog), checked);
-            for (const QByteArray &click : clicks.split(' ')) {
-                if (!click.isEmpty())
-                    Part<QAbstractButton>(dialog, click)->click();
-            }
+            QCOMPARE(Those(dialog, u"^op[tn]"_s, "checked"), checked);
+            for (const QByteArray &option : clicks)
+                Click(dialog, option);
             QTest::keyClick(&dialog, Qt::Key_Return);
             QCOMPARE(std::pair(dialog.TrainMode(), dialog.SoundEffect()), result);
         }
@@ -123,9 +120,8 @@ private Q_SLOTS:
             dialog.SetSoundEffect(2);
             dialog.SetShowExplanation(0, allowed);
             Show(dialog);
-            auto *tick = Part<QAbstractButton>(dialog, "chkShowExplanation");
-            QCOMPARE(tick->isEnabled(), allowed);
-            QTest::mouseClick(tick, Qt::LeftButton, {}, QPoint(10, tick->height() / 2));
+            QCOMPARE(Part(dialog, "chkShowExplanation")->isEnabled(), allowed);
+            Click(dialog, "chkShowExplanation");
             QTest::keyClick(&dialog, Qt::Key_Return);
             QCOMPARE(dialog.ShowExplanation(), allowed ? 1 : 0);
             QCOMPARE(dialog.SoundEffect(), 2);
@@ -133,41 +129,11 @@ private Q_SLOTS:
     }
 
 private:
-    static void Show(QWidget &dialog)
-    {
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    }
-    template <typename Widget>
-    static Widget *Part(const QWidget &dialog, const QByteArray &name)
-    {
-        auto *part = dialog.findChild<Widget *>(QString::fromLatin1(name));
-        if (!part)
-            qFatal("no %s", name.constData());
-        return part;
-    }
     static void Press(QWidget *widget, Qt::Key key, int times)
     {
         for (int i = 0; i < times; ++i)
             QTest::keyClick(widget, key);
     }
-    static QString Texts(const QListWidget &list)
-    {
-        QStringList texts;
-        for (int row = 0; row < list.count(); ++row)
-            texts += list.item(row)->text();
-        return texts.join(u' ');
-    }
-    static QString Checked(const QWidget &dialog)
-    {
-        QStringList names;
-        for (const auto *button : dialog.findChildren<QAbstractButton *>()) {
-            if (button->isChecked())
-                names += button->objectName();
-        }
-        return names.join(u' ');
-    }
-
     std::optional<SkinnedInstall> m_install;
 };
 

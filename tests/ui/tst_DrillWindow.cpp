@@ -224,9 +224,6 @@ private Q_SLOTS:
         QCOMPARE(m_navigator->helpPages, QStringList({u"frmEn_KeyTrain_Basic"_s, u"frmEn_KeyTrain_Basic"_s}));
         QVERIFY(m_drill && m_drill->isVisible());
         QVERIFY(m_install->Read(u"Users/Ann/Setting.ini"_s).isNull());
-        const QImage look = m_drill->grab().toImage(); // its edge has two colours
-        QCOMPARE(look.pixelColor(0, 300), QColor(141, 148, 167));
-        QCOMPARE(look.pixelColor(1022, 300), QColor(211, 214, 224));
     }
 
 private:

@@ -85,24 +85,6 @@ private Q_SLOTS:
         QCOMPARE(Mistakes(), QByteArray());
     }
 
-    void PausesAndResumes()
-    {
-        Open();
-        Type(u"a"_s);
-        m_services->clock.Move(10);
-        Press(Qt::Key_Pause);
-        QVERIFY(!IsRunning());
-        QCOMPARE(Text("labPromptMsg"), u"Input by the current key suggested"_s);
-        QCOMPARE(Text("labTime"), u"0:00:00"_s); // pausing shows nothing new
-        m_services->clock.Move(1000);
-        Type(u"s"_s);
-        m_services->clock.Move(2);
-        QCOMPARE(Status().mid(0, 3), QStringList({u"0:00:12"_s, u"10KPM"_s, u"100%"_s}));
-        Press(Qt::Key_Pause);
-        Press(Qt::Key_Pause);
-        QVERIFY(IsRunning());
-    }
-
     void InputMethods()
     {
         Open();

@@ -1,4 +1,5 @@
 #include "support/Damage.h"
+#include "support/Dialogs.h"
 #include "support/Fakes.h"
 #include "support/SkinnedInstall.h"
 #include "ui/shell/DlgUr_UserLogin.h"
@@ -57,7 +58,7 @@ private Q_SLOTS:
     void ChosenFromTheList()
     {
         for (const bool byKeys : {false, true}) {
-            Open("Ann;\r\nBob;\r\n");
+            Open("Ann;\r\n\u674E;\r\n");
             QVERIFY(!Button(u"XBtnDelete"_s)->isEnabled());
             if (byKeys) {
                 QTest::keyClick(m_name, Qt::Key_Down);
@@ -65,14 +66,14 @@ private Q_SLOTS:
                 QTest::keyClick(m_list, Qt::Key_Down);
                 QTest::keyClick(m_list, Qt::Key_Return);
             } else {
-                ClickRow(1);
+                Dialogs::ClickRow(m_list, 1);
                 QVERIFY(Button(u"XBtnDelete"_s)->isEnabled());
                 QTest::mouseClick(Button(u"XBtnEnter"_s), Qt::LeftButton);
             }
-            QCOMPARE(m_name->text(), u"Bob"_s);
+            QCOMPARE(m_name->text(), u"李"_s);
             QVERIFY(!m_dialog->isVisible());
-            QCOMPARE(Shared().CurrentUserName, u"Bob"_s);
-            QCOMPARE(m_install->Entries(u"Users"_s), QStringList{u"Bob"_s});
+            QCOMPARE(Shared().CurrentUserName, u"李"_s);
+            QCOMPARE(m_install->Entries(u"Users"_s), QStringList{u"李"_s});
         }
     }
 
@@ -83,7 +84,7 @@ private Q_SLOTS:
         Shared().CurrentUserName = u"Bob"_s;
         for (const qint16 answer : {Public_Function::MessageNo, Public_Function::MessageYes}) {
             m_answers.answer = answer;
-            ClickRow(0);
+            Dialogs::ClickRow(m_list, 0);
             if (answer == Public_Function::MessageYes) { // not on a full disk
                 CurrentWriteFault() = WriteFault();
                 QTest::keyClick(m_list, Qt::Key_Delete);
@@ -100,7 +101,7 @@ private Q_SLOTS:
             QCOMPARE(Button(u"XBtnDelete"_s)->isEnabled(), !gone);
             QCOMPARE(m_name->text(), QString());
             if (!gone) {
-                ClickRow(0);
+                Dialogs::ClickRow(m_list, 0);
                 QCOMPARE(m_name->text(), u"Ann"_s);
             }
         }
@@ -119,15 +120,9 @@ private:
         m_dialog = std::make_unique<DlgUr_UserLogin>(nullptr);
         m_name = m_dialog->findChild<QLineEdit *>(u"TxtUserName"_s);
         m_list = m_dialog->findChild<QListWidget *>(u"LstUser"_s);
-        m_dialog->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+        Dialogs::Show(*m_dialog);
     }
     SkinButton *Button(const QString &name) const { return m_dialog->findChild<SkinButton *>(name); }
-    void ClickRow(int row)
-    {
-        const QPoint at = m_list->visualItemRect(m_list->item(row)).center();
-        QTest::mouseClick(m_list->viewport(), Qt::LeftButton, {}, at);
-    }
 
     FakeAnswers m_answers;
     std::optional<SkinnedInstall> m_install;

@@ -119,25 +119,6 @@ private Q_SLOTS:
         QCOMPARE(Keys(), u"x5"_s);
     }
 
-    void AsksForAnotherLessonAtTheEnd()
-    {
-        m_install->Write(u"Data/English/T_Character/Numpad/01.txt"_s, "Next\r\n7"_ba);
-        Open<frmEn_NumPad>();
-        m_messages->answer = Public_Function::MessageNo;
-        Type(u"456x5+"_s);
-        QCOMPARE(Shown(), QStringList({u"0:00:00"_s, u"0KPM"_s, u"0%"_s, u"0 %"_s}));
-        QCOMPARE(Keys(), u"45"_s);
-        m_messages->answer = Public_Function::MessageYes;
-        InDialog([](QWidget *dialog) {
-            auto *list = dialog->findChild<QListWidget *>();
-            QTest::keyClick(list, Qt::Key_Down);
-            QTest::keyClick(list, Qt::Key_Return);
-        });
-        Type(u"456x5+"_s);
-        QCOMPARE(Text("labLessonMsg"), u"Next"_s);
-        QCOMPARE(Keypad(), u"Next key: 7, right index finger"_s);
-    }
-
 private:
     static constexpr auto LessonFile = "Data/English/T_Character/Numpad/00.txt"_L1;
 

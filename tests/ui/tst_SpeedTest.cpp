@@ -2,7 +2,6 @@
 #include "ui/speedtest/frmFreeType.h"
 #include "ui/speedtest/frmTest.h"
 
-#include <QCheckBox>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -88,24 +87,22 @@ private Q_SLOTS:
     void WaitsAtTheEndOfALine_data()
     {
         QTest::addColumn<int>("rule");
-        QTest::addColumn<int>("key");
-        QTest::addColumn<int>("other");
-        QTest::newRow("Enter") << 1 << int(Qt::Key_Return) << int(Qt::Key_Space);
-        QTest::newRow("Space") << 2 << int(Qt::Key_Space) << int(Qt::Key_Return);
+        QTest::addColumn<Qt::Key>("goOn");
+        QTest::addColumn<Qt::Key>("other");
+        QTest::newRow("Enter") << 1 << Qt::Key_Return << Qt::Key_Space;
+        QTest::newRow("Space") << 2 << Qt::Key_Space << Qt::Key_Return;
     }
 
     void WaitsAtTheEndOfALine()
     {
         QFETCH(int, rule);
-        QFETCH(int, key);
-        QFETCH(int, other);
-        const auto goOn = static_cast<Qt::Key>(key);
+        QFETCH(Qt::Key, goOn);
+        QFETCH(Qt::Key, other);
         WriteText(u"ab\ncd"_s);
         Shared().NewLine = rule;
         Open<frmTest>();
-        Type(u"ab"_s);
-        Type(u"c"_s);
-        Press(static_cast<Qt::Key>(other));
+        Type(u"abc"_s);
+        Press(other);
         QTest::keyRelease(Box(), goOn); // its press chose a candidate of the input method
         Type(u"c"_s);
         QCOMPARE(Row(u"rtfInput0"_s), u"ab/rr"_s);
@@ -192,19 +189,19 @@ private Q_SLOTS:
 
     void StoresWhatIsLeft_data()
     {
-        QTest::addColumn<QString>("way");
-        QTest::addColumn<QString>("leadsTo");
-        QTest::newRow("close") << u"BtnClose"_s << u""_s;
-        QTest::newRow("back") << u"BtnReturn"_s << u""_s;
-        QTest::newRow("printed text") << u"TestTab1"_s << u"free typing"_s;
-        QTest::newRow("simultaneous input") << u"TestTab2"_s << u"stays"_s;
-        QTest::newRow("own tab") << u"TestTab0"_s << u"goes on"_s;
+        QTest::addColumn<QStringList>("records");
+        QTest::addColumn<QStringList>("tests"); // which open instead
+        QTest::addColumn<int>("menuShown");
+        const QStringList one{u"24 75 Screen Text"_s};
+        QTest::newRow("BtnClose") << one << QStringList() << 1;
+        QTest::newRow("BtnReturn") << one << QStringList() << 1;
+        QTest::newRow("TestTab0") << QStringList() << QStringList() << 0; // its own, which goes on
+        QTest::newRow("TestTab1") << one << QStringList(u"free typing"_s) << 0;
+        QTest::newRow("TestTab2") << one << QStringList() << 0;
     }
 
     void StoresWhatIsLeft()
     {
-        QFETCH(QString, way);
-        QFETCH(QString, leadsTo);
         WriteText(u"abcdef"_s);
         Open<frmTest>();
         Type(u"abx"_s);
@@ -212,19 +209,19 @@ private Q_SLOTS:
         m_services->clock.Move(100);
         Type(u"d"_s); // the pause is over
         m_services->clock.Move(10);
+        const QString way = QString::fromLatin1(QTest::currentDataTag());
         Click(way);
-        QCOMPARE(Records(), leadsTo == u"goes on"_s ? QStringList() : QStringList(u"24 75 Screen Text"_s));
-        QCOMPARE(m_navigator->tests, leadsTo == u"free typing"_s ? QStringList(leadsTo) : QStringList());
-        QCOMPARE(m_navigator->menuShown, leadsTo.isEmpty() ? 1 : 0);
-        if (leadsTo == u"free typing"_s) {
+        QTEST(Records(), "records");
+        QTEST(m_navigator->tests, "tests");
+        QTEST(m_navigator->menuShown, "menuShown");
+        if (way == u"TestTab1"_s) {
             QCOMPARE(Shared().TestSource, 1);
             QCOMPARE(Shared().TestDisplayMode[1], 4);
-        } else if (leadsTo == u"stays"_s) {
+        } else if (way == u"TestTab2"_s) { // not there yet: the page stays, and the test is over
             Type(u"c"_s);
             QVERIFY(!IsRunning());
             QCOMPARE(Row(u"rtfInput0"_s), u"abxd/rrwr"_s);
-            InDialog([](QWidget *dialog) { QTest::keyClick(dialog, Qt::Key_Return); });
-            Click(u"BtnSetting"_s);
+            Choose(u"BtnSetting"_s, {});
             Type(u"a"_s);
             QVERIFY(IsRunning());
         }
@@ -235,24 +232,14 @@ private Q_SLOTS:
         WriteText(u"abc\ndef"_s);
         Open<frmTest>();
         Type(u"abx"_s);
-        InDialog([](QWidget *dialog) {
-            dialog->findChild<QRadioButton *>(u"optComp2"_s)->click();
-            dialog->findChild<QRadioButton *>(u"optNewLine1"_s)->click();
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        Click(u"BtnSetting"_s);
+        Choose(u"BtnSetting"_s, {u"optComp2"_s, u"optNewLine1"_s});
         QCOMPARE(m_dialogsSeen, 1);
         QCOMPARE(Row(u"rtfSubject0"_s), u"abx/rrw"_s);
         QCOMPARE(Row(u"rtfSubject1"_s), u"def/---/d"_s);
         QVERIFY(!Line(u"rtfInput0"_s));
         for (const bool retest : {false, true}) {
             m_messages->answer = retest ? Public_Function::MessageYes : Public_Function::MessageNo;
-            InDialog([](QWidget *dialog) {
-                dialog->findChild<QRadioButton *>(u"optOverType1"_s)->click();
-                dialog->findChild<QLineEdit *>(u"txtMinutes"_s)->setText(u"25"_s);
-                QTest::keyClick(dialog, Qt::Key_Return);
-            });
-            Click(u"BtnSetting"_s);
+            Choose(u"BtnSetting"_s, {u"optOverType1"_s}, u"25"_s);
             QCOMPARE(Shared().OverType, retest ? 1 : 0);
             QCOMPARE(Shared().LimitTime, qint16(retest ? 25 : 10));
             QCOMPARE(IsRunning(), !retest);
@@ -274,11 +261,7 @@ private Q_SLOTS:
         Open<frmTest>();
         Type(u"ab"_s);
         Press(Qt::Key_Pause);
-        InDialog([](QWidget *dialog) {
-            dialog->findChild<QRadioButton *>(u"optNewLine0"_s)->click();
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        Click(u"BtnSetting"_s);
+        Choose(u"BtnSetting"_s, {u"optNewLine0"_s});
         QVERIFY(!IsRunning());
         QCOMPARE(Row(u"rtfSubject1"_s), u"cd/--/c"_s); // the line waits no longer
         Type(u"c"_s);
@@ -336,21 +319,13 @@ private Q_SLOTS:
                  QStringList({u"Correct rate:  0"_s, u"Average speed: "_s + speed}));
         QCOMPARE(Records(), QStringList(speed + u" 100 Printed Text"_s));
 
-        InDialog([](QWidget *dialog) {
-            dialog->findChild<QRadioButton *>(u"OptFreeInput"_s)->click();
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        Click(u"BtnSelectLesson"_s);
+        Choose(u"BtnSelectLesson"_s, {u"OptFreeInput"_s});
         QCOMPARE(Row(u"rtfInput0"_s), u"/"_s);
         Type(u"again"_s);
         QVERIFY(IsRunning());
         m_install->Write(u"Data/Appendix/Sweden.txt"_s, "x");
         m_messages->answer = Public_Function::MessageNo;
-        InDialog([](QWidget *dialog) {
-            dialog->findChild<QRadioButton *>(u"OptBookFile"_s)->click();
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        Click(u"BtnSelectLesson"_s);
+        Choose(u"BtnSelectLesson"_s, {u"OptBookFile"_s});
         QCOMPARE(m_navigator->tests, QStringList(u"speed test"_s));
         QCOMPARE(Shared().TestDisplayMode[1], 3);
         QVERIFY(Shared().TestFile[1].endsWith(u"Sweden.txt"_s, Qt::CaseInsensitive));
@@ -386,22 +361,13 @@ private Q_SLOTS:
         });
         Open<frmTest>();
         Type(u"ab"_s);
-        InDialog([](QWidget *dialog) {
-            dialog->findChild<QRadioButton *>(u"optOverType1"_s)->click();
-            dialog->findChild<QLineEdit *>(u"txtMinutes"_s)->setText(u"25"_s);
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        Click(u"BtnSetting"_s);
+        Choose(u"BtnSetting"_s, {u"optOverType1"_s}, u"25"_s);
         QCOMPARE(Records().size(), 1);
         QCOMPARE(Shared().OverType, 0);
 
         Open<frmFreeType>();
         Type(u"a"_s);
-        InDialog([](QWidget *dialog) {
-            dialog->findChild<QRadioButton *>(u"OptBookFile"_s)->click();
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        Click(u"BtnSelectLesson"_s);
+        Choose(u"BtnSelectLesson"_s, {u"OptBookFile"_s});
         QCOMPARE(m_navigator->tests, QStringList());
         QCOMPARE(m_navigator->menuShown, 2);
     }
@@ -422,13 +388,23 @@ private Q_SLOTS:
         WriteText(u"abc"_s);
         Open<frmTest>();
         QVERIFY(QFile::remove(m_install->Native(u"Data/English/E_General/lunch.txt"_s)));
-        InDialog([](QWidget *dialog) {
-            dialog->findChild<QRadioButton *>(u"optComp2"_s)->click();
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        Click(u"BtnSetting"_s);
+        Choose(u"BtnSetting"_s, {u"optComp2"_s});
         Type(u"a"_s); // the text that was loaded is still there
         QCOMPARE(Row(u"rtfSubject0"_s), u"abc/r--/b"_s);
+    }
+
+private:
+    /// Opens a dialog by its button, chooses options and types the minutes there, and confirms it.
+    void Choose(const QString &button, const QStringList &options, const QString &minutes = {})
+    {
+        InDialog([options, minutes](QWidget *dialog) {
+            for (const QString &option : options)
+                dialog->findChild<QRadioButton *>(option)->click();
+            if (!minutes.isEmpty())
+                dialog->findChild<QLineEdit *>(u"txtMinutes"_s)->setText(minutes);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        Click(button);
     }
 };
 

@@ -1,4 +1,5 @@
 #include "core/engine/TypingSession.h"
+#include "support/Dialogs.h"
 #include "support/Fakes.h"
 #include "support/SkinnedInstall.h"
 #include "ui/shell/ChooseFile.h"
@@ -16,11 +17,11 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPrinter>
-#include <QRegularExpression>
 #include <QTest>
 #include <QToolTip>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace Dialogs;
 using Public_Function::PrintOutcome;
 
 /// A session with the mistyped characters that a case needs.
@@ -36,14 +37,14 @@ struct Session final : TypingSession
     WrongCharacters wrong;
 };
 
-/// Paints a chart; heights of its bars, or of its line, from left to right in pixels.
-static QList<int> PaintedHeights(ChartData::Kind kind, const QList<double> &values, double maximum)
+/// Paints a bar chart; heights of its bars from left to right in pixels.
+static QList<int> PaintedHeights(const QList<double> &values, double maximum)
 {
     Chart chart(u"chart"_s, u"Chart"_s, nullptr);
     chart.resize(500, 260);
     const QColor barColor(200, 10, 20);
     ChartData data;
-    data.kind = kind;
+    data.kind = ChartData::Kind::Bar;
     data.values = values;
     data.maximum = maximum;
     data.color = barColor;
@@ -114,10 +115,7 @@ private Q_SLOTS:
         QVERIFY(dialog.isVisible());
         QTest::keyClick(Part<QComboBox>(dialog, "cbxFolder"), Qt::Key_Down);
         QCOMPARE(Shown(dialog), u"optLanguage1 optClass1 Law *one.txt two.txt"_s);
-        const auto *files = Part<QListWidget>(dialog, "lstFile");
-        const QPoint second = files->visualItemRect(files->item(1)).center();
-        QTest::mouseClick(files->viewport(), Qt::LeftButton, {}, second);
-        QTest::mouseDClick(files->viewport(), Qt::LeftButton, {}, second);
+        ClickRow(Part<QListWidget>(dialog, "lstFile"), 1, true);
         QVERIFY(!dialog.isVisible());
         QCOMPARE(dialog.ChosenFile(), Shared().InstallDir + u"Data\\Chinese\\Professional\\Law\\two.txt"_s);
     }
@@ -218,9 +216,10 @@ private Q_SLOTS:
 
     void ScaleMarksAreRound()
     {
-        for (const auto &[maximum, marks] :
-             {std::pair(0, u"0"_s), std::pair(1, u"0 1"_s), std::pair(97, u"0 20 40 60 80 97"_s),
-              std::pair(208, u"0 50 100 150 200"_s)}) {
+        for (const auto &[maximum, marks] : {std::pair(0, u"0"_s),
+                                             {1, u"0 1"_s},
+                                             {97, u"0 20 40 60 80 97"_s},
+                                             {208, u"0 50 100 150 200"_s}}) {
             QStringList shown;
             for (const double mark : ChartScale(maximum, 5, true).Marks())
                 shown += ChartScale::Text(mark);
@@ -230,11 +229,9 @@ private Q_SLOTS:
 
     void BarsStandAsHighAsTheirValues()
     {
-        const QList<int> runs = PaintedHeights(ChartData::Kind::Bar, {40, 20, 0, 10}, 40);
+        const QList<int> runs = PaintedHeights({40, 20, 0, 10}, 40);
         QVERIFY(runs.size() == 3 && runs[0] > 150);
         QVERIFY(qAbs(runs[0] - 2 * runs[1]) <= 3 && qAbs(runs[0] - 4 * runs[2]) <= 6);
-        QVERIFY(!PaintedHeights(ChartData::Kind::Line, {40, 20}, 40).isEmpty());
-        QVERIFY(PaintedHeights(ChartData::Kind::Line, {0}, 0).isEmpty());
     }
 
     void ShowsTheResult()
@@ -285,39 +282,13 @@ private Q_SLOTS:
     }
 
 private:
-    static void Show(QWidget &dialog)
-    {
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    }
-    template <typename Control>
-    static Control *Part(const QWidget &dialog, const QByteArray &name)
-    {
-        return dialog.findChild<Control *>(QString::fromLatin1(name));
-    }
-    static void Click(const QWidget &dialog, const QByteArray &name)
-    {
-        QTest::mouseClick(Part<QWidget>(dialog, name), Qt::LeftButton, {}, QPoint(12, 12));
-    }
-    /// Names of the controls that have a property.
-    static QString Those(const QWidget &dialog, const QString &controls, const char *property)
-    {
-        QStringList names;
-        for (const auto *control : dialog.findChildren<QWidget *>(QRegularExpression(controls))) {
-            if (control->property(property).toBool())
-                names += control->objectName();
-        }
-        return names.join(u' ');
-    }
     static QString Shown(const DlgSelLsn &dialog)
     {
         const auto *folders = Part<QComboBox>(dialog, "cbxFolder");
         QString shown = Those(dialog, u"^opt"_s, "checked");
         shown += folders->isEnabled() ? u' ' + folders->currentText() : u" -"_s;
-        const auto *files = Part<QListWidget>(dialog, "lstFile");
-        for (int row = 0; row < files->count(); ++row)
-            shown += (row == files->currentRow() ? u" *"_s : u" "_s) + files->item(row)->text();
-        return shown;
+        const QString files = Rows(Part<QListWidget>(dialog, "lstFile"));
+        return files.isEmpty() ? shown : shown + u' ' + files;
     }
 
     std::optional<SkinnedInstall> m_install;

@@ -61,7 +61,7 @@ private:
 
     OnScreenKeys *m_keys = nullptr;
     int m_soundMode = 1;
-    int m_lastKey = 0; ///< that was pressed
+    int m_lastKey = 0;        ///< that was pressed
     bool m_composing = false; ///< the input method has a composition that was not ended yet
     bool m_switching = false; ///< the input method is being switched by Ctrl+Space or Ctrl+Shift
 };

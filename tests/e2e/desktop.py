@@ -134,21 +134,6 @@ class Desktop:
             data = memory[start:start + stride * height]
         return width, height, [data[y * stride:y * stride + width * 4] for y in range(height)]
 
-    def pixel(self, x, y):
-        """Red, green and blue of one point of the screen."""
-        blue, green, red = self.picture()[2][y][x * 4:x * 4 + 3]
-        return red, green, blue
-
-    def colours(self, rect):
-        """How often each colour (red, green, blue) occurs in a rectangle (x, y, width, height) of the screen."""
-        x, y, width, height = rect
-        count = {}
-        for row in self.picture()[2][y:y + height]:
-            for at in range(x * 4, (x + width) * 4, 4):
-                colour = (row[at + 2], row[at + 1], row[at])
-                count[colour] = count.get(colour, 0) + 1
-        return count
-
     def screenshot(self, path):
         """Writes the screen as a PNG file."""
         width, height, rows = self.picture()

@@ -12,11 +12,6 @@ WORD = "Typing Course \\ Word Drill"
 
 
 class Faults(Journey):
-    def write(self, data, *names):
-        os.makedirs(os.path.dirname(self.program.path(*names)), exist_ok=True)
-        with open(self.program.path(*names), "wb") as file:
-            file.write(data)
-
     def test_user_deleted_in_a_drill(self):
         p = self.program
         p.open()
@@ -31,16 +26,11 @@ class Faults(Journey):
         self.assertEqual(os.listdir(p.path("Users")), [])
         p.click("English typing")
         p.wait_active("Login")
-        p.type("anna")
-        p.keys("Return")
-        p.wait_active("Typing Speed Test")
-        p.keys("Escape")
-        p.wait_active(JUNIOR)
 
     def test_dictionary_locked_for_a_while(self):
         p = self.program
-        self.write(b"anna;\r\n", "user.ini")
-        self.write(b"[English]\r\nWordTrain_ShowExplanation=1\r\n", "Users", "anna", "Setting.ini")
+        p.write(b"anna;\r\n", "user.ini")
+        p.write(b"[English]\r\nWordTrain_ShowExplanation=1\r\n", "Users", "anna", "Setting.ini")
         p.open()
         p.log_in("anna")
         with sqlite3.connect(p.path("Data", "English", "T_Word", "Dictionary", "TOEFL.Dat"), isolation_level=None) as dat:
@@ -58,14 +48,9 @@ class Faults(Journey):
         p = self.program
         p.open()
         p.kill()
-        self.write(b"no pictures" * 500, "Bitmap", "1024_CH.DLL")
+        p.write(b"no pictures" * 500, "Bitmap", "1024_CH.DLL")
         p.process = p.start()
         said = "The pictures are missing or damaged; windows are shown in plain colours:\n"
         p.holds(lambda: said + p.path("Bitmap", "1024_CH.DLL") in [w.description for w in p.screen.windows()], said)
         p.keys("Return")
         p.wait_active("Login")
-        p.log_in("anna")
-        p.click("English typing")
-        p.wait_active(JUNIOR)
-        p.type("f")
-        p.described("Correct rate", "100%")

@@ -13,9 +13,7 @@ class Placement(Journey):
     def only_text(self, language, text):
         for kind in ("T_Article", "Professional"):
             shutil.rmtree(self.program.path("Data", language, kind))
-        os.makedirs(self.program.path("Data", language, "T_Article", "Adage"))
-        with open(self.program.path("Data", language, "T_Article", "Adage", "1.txt"), "wb") as file:
-            file.write(text)
+        self.program.write(text, "Data", language, "T_Article", "Adage", "1.txt")
 
     def test_from_the_login_to_a_drill_and_never_asked_again(self):
         p = self.program

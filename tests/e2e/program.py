@@ -4,7 +4,7 @@ import os
 import re
 import shutil
 
-from desktop import Missing, until
+from desktop import until
 from screen import Gone
 
 
@@ -50,6 +50,12 @@ class Program:
     def bytes(self, *names):
         with open(self.path(*names), "rb") as file:
             return file.read()
+
+    def write(self, data, *names):
+        """Writes a file, and its folder where it is missing."""
+        os.makedirs(os.path.dirname(self.path(*names)), exist_ok=True)
+        with open(self.path(*names), "wb") as file:
+            file.write(data)
 
     def settings(self, user):
         """The keys of the user's Setting.ini in lower case: {(section, key): value}."""
@@ -145,12 +151,3 @@ class Program:
 
     def click_at(self, x, y, times=1):
         self.desktop.xdotool("mousemove", x, y, "click", "--repeat", times, "--delay", 60, 1)
-
-    def press(self, x, y):
-        self.desktop.xdotool("mousemove", x, y, "mousedown", 1)
-
-    def release(self, x, y):
-        self.desktop.xdotool("mousemove", x, y, "mouseup", 1)
-
-
-__all__ = ["Program", "Missing"]

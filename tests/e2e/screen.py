@@ -8,7 +8,7 @@ import gi
 gi.require_version("Gio", "2.0")
 from gi.repository import Gio, GLib  # noqa: E402
 
-ACCESSIBLE, COMPONENT, TEXT, VALUE = (f"org.a11y.atspi.{name}" for name in ("Accessible", "Component", "Text", "Value"))
+ACCESSIBLE, COMPONENT, TEXT = (f"org.a11y.atspi.{name}" for name in ("Accessible", "Component", "Text"))
 ROOT = "/org/a11y/atspi/accessible/root"
 # Numbers of states as AT-SPI defines them.
 STATES = {"active": 1, "checked": 4, "editable": 7, "enabled": 8, "focused": 12, "modal": 16, "selected": 23,
@@ -68,10 +68,6 @@ class Node:
     @property
     def text(self):
         return self._call(TEXT, "GetText", GLib.Variant("(ii)", (0, -1)))[0]
-
-    @property
-    def value(self):
-        return self._property(VALUE, "CurrentValue")
 
     def children(self):
         return [Node(self.bus, owner, path) for owner, path in self._call(ACCESSIBLE, "GetChildren")[0]]

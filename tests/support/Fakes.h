@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ProgramLauncher.h"
 #include "support/FakeServices.h"
 #include "ui/shell/Navigator.h"
 #include "ui/shell/ShowMessage.h"
@@ -42,6 +43,20 @@ private:
         if (instead)
             instead->close();
     }
+};
+
+/// Notes which program it was asked to start.
+class FakeLauncher final : public ProgramLauncher
+{
+public:
+    bool Start(const QString &nativePath) override
+    {
+        asked = nativePath;
+        return succeeds;
+    }
+
+    QString asked;
+    bool succeeds = true;
 };
 
 /// Answers messages and keeps their texts, as long as the object lives.

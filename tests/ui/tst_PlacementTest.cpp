@@ -1,6 +1,5 @@
 #include "core/records/IUserRecord.h"
 #include "core/speedtest/PlacementWords.h"
-#include "platform/ProgramLauncher.h"
 #include "support/Fakes.h"
 #include "support/SkinnedInstall.h"
 #include "ui/drills/ArticleBox.h"
@@ -12,17 +11,6 @@
 #include <QtWidgets>
 
 using namespace Qt::Literals::StringLiterals;
-
-/// Writes down what it was asked to start.
-struct NotedLauncher final : ProgramLauncher
-{
-    bool Start(const QString &nativePath) override
-    {
-        started += QFileInfo(nativePath).fileName();
-        return true;
-    }
-    QStringList started;
-};
 
 class tst_PlacementTest : public QObject
 {
@@ -36,7 +24,6 @@ private Q_SLOTS:
         m_navigator.emplace();
         m_messages.emplace();
         PlatformServices().launcher = &m_launcher;
-        m_launcher.started.clear();
     }
     void cleanup() { delete m_window; }
 
@@ -129,33 +116,15 @@ private Q_SLOTS:
         QCOMPARE(m_install->Entries(u"Users/Ann"_s), QStringList());
     }
 
-    void TypesAChineseTextByAnInputMethod()
-    {
-        WriteText("Chinese/Professional/Law/1.txt", "\xE5\xB0\x8F\xE8\x88\xB9\xEF\xBC\x8C\xE5\xA5\xBD\r\n");
-        Open(false);
-        QCOMPARE(Box(0), u"小船，好\n\n\n"_s);
-        Compose(u"xiao"_s, {});
-        QCOMPARE(Box(1), u"\n\n\n"_s);
-        Compose({}, u"小传"_s);
-        Compose({}, u"，"_s);
-        QCOMPARE(Box(1), u"小传，\n\n\n"_s);
-        m_services->clock.Move(3);
-        AtResult(Qt::Key_Escape);
-        Click("XBtn_Finish");
-        QTRY_VERIFY(m_window.isNull());
-        QCOMPARE(m_result, u"Speed60   Correct Rate66%"_s);
-    }
-
     void OpensWhatIsSuggested()
     {
         WriteText("English/T_Article/Adage/1.txt", "a b c d e f g h i j k l m n o p q r s t\r\n");
         // The seconds that the text takes, and where that leads.
-        for (const auto &[seconds, drills, games] :
-             {std::tuple(120.0, QList{DrillKind::KeyJunior}, QStringList()),
-              std::tuple(48.0, QList{DrillKind::Word}, QStringList()),
-              std::tuple(3.0, QList<DrillKind>(), QStringList{u"Missile.exe"_s})}) {
+        for (const auto &[seconds, drills, game] : {std::tuple(120.0, QList{DrillKind::KeyJunior}, QString()),
+                                                    std::tuple(48.0, QList{DrillKind::Word}, QString()),
+                                                    std::tuple(3.0, QList<DrillKind>(), u"Missile.exe"_s)}) {
             m_navigator.emplace();
-            m_launcher.started.clear();
+            m_launcher.asked.clear();
             Open(true);
             Type(u"a b c d e f g h i j k l m n o p q r s t"_s);
             m_services->clock.Move(seconds);
@@ -163,7 +132,7 @@ private Q_SLOTS:
             Press(Qt::Key_Return);
             QTRY_VERIFY(m_window.isNull());
             QCOMPARE(m_navigator->opened, drills);
-            QCOMPARE(m_launcher.started, games);
+            QCOMPARE(m_launcher.asked.section(u'/', -1), game);
             QCOMPARE(m_navigator->menuShown, drills.isEmpty() ? 1 : 0);
         }
     }
@@ -219,12 +188,6 @@ private:
     {
         QTest::mouseClick(m_window->findChild<QWidget *>(QLatin1StringView(name)), Qt::LeftButton);
     }
-    static void Compose(const QString &preedit, const QString &commit)
-    {
-        QInputMethodEvent event(preedit, {});
-        event.setCommitString(commit);
-        QCoreApplication::sendEvent(QApplication::focusWidget(), &event);
-    }
     QString Box(int index) const
     {
         return m_window->findChild<ArticleBox *>(u"RTB"_s + QString::number(index))->Text();
@@ -245,7 +208,7 @@ private:
     std::optional<SkinnedInstall> m_install;
     std::optional<FakeNavigator> m_navigator;
     std::optional<FakeAnswers> m_messages;
-    NotedLauncher m_launcher;
+    FakeLauncher m_launcher;
     QWidget m_owner;
     QPointer<Frm_BeginTest> m_window;
     QString m_result;

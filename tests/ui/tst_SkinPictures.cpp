@@ -16,116 +16,66 @@ private Q_SLOTS:
     void EveryPictureIsThereAtBothScales()
     {
         // The size of a frame where a layout depends on it, the number of frames, and which pictures are so.
-        const QList<std::tuple<QSize, int, QByteArrayList>> kinds{
-            {{}, 1, {"MAIN_BG", "MAIN_BACK", "DIALOG_TITLE", "EDGE_LEFT", "EDGE_RIGHT", "EDGE_BOTTOM"}},
-            {{}, 1, {"EDGE_LEFTDOWN", "EDGE_RIGHTDOWN"}},
-            {{}, 4, {"DLG_BTN_CLOSE"}},
-            {{220, 44}, 4, {"BTN_YINGWEN", "BTN_CESHI", "BTN_JIAOCHENG", "BTN_YOUXI_MISSILE"}},
-            {{220, 44}, 4, {"BTN_YOUXI_RABBIT", "BTN_GERENJILU", "BTN_TUICHUDENGLU"}},
-            {{40, 26}, 4, {"BTN_CLOSE", "BTN_MIN", "BTN_HELP"}},
-            {{90, 30}, 4, {"BTN_OK", "BTN_CANCEL", "BTN_YES", "BTN_NO", "BTN_LOGIN"}},
-            {{90, 30}, 4, {"BTN_ACCEPT", "BTN_AGAIN", "BTN_HOME"}},
-            {{90, 30}, 5, {"BTN_DELETE"}},
-            {{112, 32}, 4, {"BTN_SELECTLESSON", "BTN_KEYBOARD_NUMBER", "BTN_OPERATION"}},
-            {{112, 32}, 4, {"BTN_PAUSE", "BTN_SAVE", "BTN_FINISHTEST", "BTN_FINISH", "BTN_SCORE"}},
-            {{122, 32}, 4, {"BTN_KEYBOARD_STAND", "BTN_BACK"}},
-            {{22, 22}, 1, {"ICON_TIME", "ICON_SPEED", "ICON_SCHEDULE", "ICON_VERACITY"}},
-            {{140, 16}, 1, {"PROGRESSBAR_BLUE", "PROGRESSBAR_GREEN"}},
-            {{994, 40}, 1, {"EN_LABEL_KEY_B", "EN_LABEL_KEY_E", "EN_LABEL_WORD", "EN_LABEL_ARTICLE"}},
-            {{994, 40}, 1, {"TEST_LABEL_NEIBU", "TEST_LABEL_WAIBU", "TEST_LABEL_TINGDA"}},
-            {{994, 664}, 1, {"EN_KEY_BACK_B", "EN_KEY_BACK_E", "EN_WORD_BACK"}},
-            {{994, 664}, 1, {"TEST_DANHANG_BACK", "TEST_DUIZHAO_BACK", "TEST_FUGAI_BACK"}},
-            {{590, 290}, 1, {"HIGHSCORE_BACK"}},
-            {{560, 372}, 1, {"UR_ZONGHE_BACK", "UR_MISTAKEJIANWEI_BACK", "UR_MISTAKEHANZI_BACK"}},
-            {{560, 372}, 1, {"UR_ENGLISH_BACK", "UR_pinyin_BACK", "UR_WuBi_BACK", "UR_Exam_BACK"}},
-            {{}, 1, {"Ur_histogram"}},
-            {{150, 38}, 4, {"BTN_UR_ZONGHE", "BTN_UR_MISTAKEJIANWEI", "BTN_UR_MISTAKEHANZI"}},
-            {{150, 38}, 4, {"BTN_UR_ENGLISH", "BTN_UR_PINYIN", "BTN_UR_WUBI", "BTN_UR_EXAM"}},
-            {{92, 30}, 4, {"BTN_UR_PAGEUP", "BTN_UR_PAGEDOWN", "BTN_UR_RECORDDEL", "BTN_UR_SELECTALL"}},
-            {{92, 30}, 4, {"BTN_UR_SELECTNONE", "BTN_UR_RECORDCLEARALL"}},
-            {{}, 4, {"BTN_UR_RETEST", "BTN_UR_RECORDDELSEL", "BTN_UR_CREATELESSON"}},
-            {{}, 4, {"BTN_UR_CreateLesson_big"}},
-            {{525, 162}, 1, {"HAND_CLEAR", "HAND_ON"}},
-            {{64, 60}, 1, {"ICON_KEY_ON", "ICON_KEY_NORMAL"}},
-            {{896, 276}, 1, {"KEYBOARD_NORMAL", "KEYBOARD_PROMPT", "KEYBOARD_PRESSED"}},
-            {{704, 217}, 1, {"KEYBOARD_NORMAL_SMALL", "KEYBOARD_PROMPT_SMALL", "KEYBOARD_PRESSED_SMALL"}},
-            {{240, 276}, 1, {"KEYPAD_NORMAL", "KEYPAD_PROMPT", "KEYPAD_PRESSED"}},
-            {{186, 216}, 1, {"KEYPAD_NORMAL_SMALL", "KEYPAD_PROMPT_SMALL", "KEYPAD_PRESSED_SMALL"}},
-        };
-        for (const auto &[size, frames, names] : kinds) {
-            for (const QByteArray &name : names) {
-                const QImage single = Load(QString::fromLatin1(name), 1);
-                const QImage twice = Load(QString::fromLatin1(name), 2);
-                QVERIFY2(!single.isNull(), name);
-                QVERIFY2(twice.size() == single.size() * 2, name);
-                if (!size.isEmpty()) { // flat edges and tiles may well be equal when enlarged
-                    QVERIFY2(single.size() == QSize(size.width() * frames, size.height()), name);
-                    QVERIFY2(twice != single.scaled(twice.size()), name);
-                }
-                QVERIFY2(single.width() % frames == 0, name);
-                for (const QImage &strip : {single, twice}) {
-                    QList<QImage> seen;
-                    for (int frame = 0; frame < frames; ++frame) {
-                        const int width = strip.width() / frames;
-                        seen += strip.copy(frame * width, 0, width, strip.height());
-                        QVERIFY2(seen.indexOf(seen.constLast()) == frame, name);
-                    }
-                }
-            }
-        }
-        for (const QString &name : {u"INFORMATION"_s, u"STOP"_s, u"ERROR"_s, u"QUESTION"_s}) {
-            QCOMPARE(QImage(u":/message/DLG_MESSAGE_%1.png"_s.arg(name)).size(), QSize(40, 40));
-            QCOMPARE(QImage(u":/message/DLG_MESSAGE_%1@2x.png"_s.arg(name)).size(), QSize(80, 80));
-        }
-        QCOMPARE(QImage(u":/message/APP_ICON.png"_s).size(), QSize(64, 64));
-        QCOMPARE(QImage(u":/message/APP_ICON@2x.png"_s).size(), QSize(128, 128));
-    }
-
-    void EachTabIsDrawnAsItsHotPolygon()
-    {
-        using Tab = std::tuple<QString, int, int, int>; // lit in, first column, last ones in rows 10 and 25
-        const QList<Tab> tabs{{u"EN_LABEL_KEY_B"_s, 0, 380, 395},
-                              {u"EN_LABEL_KEY_E"_s, 410, 582, 592},
-                              {u"EN_LABEL_WORD"_s, 600, 770, 782},
-                              {u"EN_LABEL_ARTICLE"_s, 790, 957, 968}};
-        for (int lit = 0; lit < 4; ++lit) {
-            const QImage strip = Load(std::get<0>(tabs[lit]), 1);
-            const auto face = [&](int tab) { return strip.pixel(std::get<1>(tabs[tab]) + 12, 30); };
-            for (int tab = 0; tab < 4; ++tab) {
-                const auto &[name, left, upper, lower] = tabs[tab];
-                const QRgb other = face(tab == lit ? (lit + 1) % 4 : lit);
-                QVERIFY2(face(tab) != other, qPrintable(name));
-                for (const auto &[right, y] : {std::pair(upper, 10), {lower, 25}}) {
-                    for (const int x : {left + 4, right - 4})
-                        QVERIFY2(qAlpha(strip.pixel(x, y)) == 255 && strip.pixel(x, y) != other,
-                                 qPrintable(name));
-                    QCOMPARE(qAlpha(strip.pixel(right + 4, y)), 0);
-                }
-            }
+        CheckPictures({}, 1,
+                      "MAIN_BG MAIN_BACK DIALOG_TITLE EDGE_LEFT EDGE_RIGHT EDGE_BOTTOM EDGE_LEFTDOWN "
+                      "EDGE_RIGHTDOWN Ur_histogram");
+        CheckPictures(
+            {}, 4,
+            "DLG_BTN_CLOSE BTN_UR_RETEST BTN_UR_RECORDDELSEL BTN_UR_CREATELESSON BTN_UR_CreateLesson_big");
+        CheckPictures({220, 44}, 4,
+                      "BTN_YINGWEN BTN_CESHI BTN_JIAOCHENG BTN_YOUXI_MISSILE BTN_YOUXI_RABBIT BTN_GERENJILU "
+                      "BTN_TUICHUDENGLU");
+        CheckPictures({40, 26}, 4, "BTN_CLOSE BTN_MIN BTN_HELP");
+        CheckPictures({90, 30}, 4,
+                      "BTN_OK BTN_CANCEL BTN_YES BTN_NO BTN_LOGIN BTN_ACCEPT BTN_AGAIN BTN_HOME");
+        CheckPictures({90, 30}, 5, "BTN_DELETE");
+        CheckPictures({112, 32}, 4,
+                      "BTN_SELECTLESSON BTN_KEYBOARD_NUMBER BTN_OPERATION BTN_PAUSE BTN_SAVE BTN_FINISHTEST "
+                      "BTN_FINISH BTN_SCORE");
+        CheckPictures({122, 32}, 4, "BTN_KEYBOARD_STAND BTN_BACK");
+        CheckPictures({22, 22}, 1, "ICON_TIME ICON_SPEED ICON_SCHEDULE ICON_VERACITY");
+        CheckPictures({140, 16}, 1, "PROGRESSBAR_BLUE PROGRESSBAR_GREEN");
+        CheckPictures({994, 40}, 1,
+                      "EN_LABEL_KEY_B EN_LABEL_KEY_E EN_LABEL_WORD EN_LABEL_ARTICLE TEST_LABEL_NEIBU "
+                      "TEST_LABEL_WAIBU TEST_LABEL_TINGDA");
+        CheckPictures(
+            {994, 664}, 1,
+            "EN_KEY_BACK_B EN_KEY_BACK_E EN_WORD_BACK TEST_DANHANG_BACK TEST_DUIZHAO_BACK TEST_FUGAI_BACK");
+        CheckPictures({590, 290}, 1, "HIGHSCORE_BACK");
+        CheckPictures({560, 372}, 1,
+                      "UR_ZONGHE_BACK UR_MISTAKEJIANWEI_BACK UR_MISTAKEHANZI_BACK UR_ENGLISH_BACK "
+                      "UR_pinyin_BACK UR_WuBi_BACK UR_Exam_BACK");
+        CheckPictures({150, 38}, 4,
+                      "BTN_UR_ZONGHE BTN_UR_MISTAKEJIANWEI BTN_UR_MISTAKEHANZI BTN_UR_ENGLISH BTN_UR_PINYIN "
+                      "BTN_UR_WUBI BTN_UR_EXAM");
+        CheckPictures({92, 30}, 4,
+                      "BTN_UR_PAGEUP BTN_UR_PAGEDOWN BTN_UR_RECORDDEL BTN_UR_SELECTALL BTN_UR_SELECTNONE "
+                      "BTN_UR_RECORDCLEARALL");
+        CheckPictures({525, 162}, 1, "HAND_CLEAR HAND_ON");
+        CheckPictures({64, 60}, 1, "ICON_KEY_ON ICON_KEY_NORMAL");
+        CheckPictures({896, 276}, 1, "KEYBOARD_NORMAL KEYBOARD_PROMPT KEYBOARD_PRESSED");
+        CheckPictures({704, 217}, 1, "KEYBOARD_NORMAL_SMALL KEYBOARD_PROMPT_SMALL KEYBOARD_PRESSED_SMALL");
+        CheckPictures({240, 276}, 1, "KEYPAD_NORMAL KEYPAD_PROMPT KEYPAD_PRESSED");
+        CheckPictures({186, 216}, 1, "KEYPAD_NORMAL_SMALL KEYPAD_PROMPT_SMALL KEYPAD_PRESSED_SMALL");
+        for (const char *name : {"DLG_MESSAGE_INFORMATION", "DLG_MESSAGE_STOP", "DLG_MESSAGE_ERROR",
+                                 "DLG_MESSAGE_QUESTION", "APP_ICON"}) {
+            const QImage single(u":/message/%1.png"_s.arg(QLatin1StringView(name)));
+            const QImage twice(u":/message/%1@2x.png"_s.arg(QLatin1StringView(name)));
+            QVERIFY2(!single.isNull() && twice.size() == 2 * single.size(), name);
         }
     }
 
-    void TestTabsAreDrawnAsTheirHotPolygons()
+    void TabsAreDrawnAsTheirHotPolygons()
     {
-        std::size_t lit = 0;
-        for (const QString &name : {u"TEST_LABEL_NEIBU"_s, u"TEST_LABEL_WAIBU"_s, u"TEST_LABEL_TINGDA"_s}) {
-            const QImage strip = Load(name, 1);
-            const auto face = [&](std::size_t tab) {
-                return strip.pixel(TestLayout::tabs[tab % 3].left + 12, 30);
-            };
-            QVERIFY2(face(lit) != face(lit + 1) && face(lit + 1) == face(lit + 2), qPrintable(name));
-            for (std::size_t tab = 0; tab < TestLayout::tabs.size(); ++tab) {
-                const auto &[left, rightTop, rightMiddle, rightBottom] = TestLayout::tabs[tab];
-                for (const auto &[right, y] : {std::pair((rightTop + rightMiddle) / 2, 10),
-                                               {rightMiddle, 20},
-                                               {(rightMiddle + rightBottom) / 2, 30}}) {
-                    QVERIFY2(strip.pixel(left + 4, y) == face(tab) && strip.pixel(right - 4, y) == face(tab),
-                             qPrintable(name));
-                    QCOMPARE(qAlpha(strip.pixel(right + 4, y)), 0);
-                }
-            }
-            ++lit;
-        }
+        CheckTabs({u"EN_LABEL_KEY_B"_s, u"EN_LABEL_KEY_E"_s, u"EN_LABEL_WORD"_s, u"EN_LABEL_ARTICLE"_s},
+                  {{0, {{380, 10}, {395, 25}}},
+                   {410, {{582, 10}, {592, 25}}},
+                   {600, {{770, 10}, {782, 25}}},
+                   {790, {{957, 10}, {968, 25}}}});
+        QList<Tab> tabs;
+        for (const auto &[left, top, middle, bottom] : TestLayout::tabs)
+            tabs += {left, {{(top + middle) / 2, 10}, {middle, 20}, {(middle + bottom) / 2, 30}}};
+        CheckTabs({u"TEST_LABEL_NEIBU"_s, u"TEST_LABEL_WAIBU"_s, u"TEST_LABEL_TINGDA"_s}, tabs);
     }
 
     void EachRowOfATestHasItsFrame()
@@ -199,6 +149,53 @@ private Q_SLOTS:
     }
 
 private:
+    void CheckPictures(const QSize &size, int frames, const QByteArray &names) const
+    {
+        for (const QByteArray &name : names.split(' ')) {
+            const QImage single = Load(QString::fromLatin1(name), 1);
+            const QImage twice = Load(QString::fromLatin1(name), 2);
+            QVERIFY2(!single.isNull(), name);
+            QVERIFY2(twice.size() == single.size() * 2, name);
+            if (!size.isEmpty()) { // flat edges and tiles may well be equal when enlarged
+                QVERIFY2(single.size() == QSize(size.width() * frames, size.height()), name);
+                QVERIFY2(twice != single.scaled(twice.size()), name);
+            }
+            QVERIFY2(single.width() % frames == 0, name);
+            for (const QImage &strip : {single, twice}) {
+                QList<QImage> seen;
+                for (int frame = 0; frame < frames; ++frame) {
+                    const int width = strip.width() / frames;
+                    seen += strip.copy(frame * width, 0, width, strip.height());
+                    QVERIFY2(seen.indexOf(seen.constLast()) == frame, name);
+                }
+            }
+        }
+    }
+
+    struct Tab
+    {
+        int left;
+        QList<QPoint> right; ///< points of its right side
+    };
+    /// In each strip its own tab is lit, and each tab ends where clicks do.
+    void CheckTabs(const QStringList &strips, const QList<Tab> &tabs) const
+    {
+        for (qsizetype lit = 0; lit < strips.size(); ++lit) {
+            const QImage strip = Load(strips[lit], 1);
+            const auto face = [&](qsizetype tab) { return strip.pixel(tabs[tab].left + 12, 30); };
+            for (qsizetype tab = 0; tab < tabs.size(); ++tab) {
+                const QRgb other = face(tab == lit ? (lit + 1) % tabs.size() : lit);
+                QVERIFY2(face(tab) != other, qPrintable(strips[lit]));
+                for (const QPoint &side : tabs[tab].right) {
+                    for (const int x : {tabs[tab].left + 4, side.x() - 4})
+                        QVERIFY2(qAlpha(strip.pixel(x, side.y())) == 255 && strip.pixel(x, side.y()) != other,
+                                 qPrintable(strips[lit]));
+                    QCOMPARE(qAlpha(strip.pixel(side.x() + 4, side.y())), 0);
+                }
+            }
+        }
+    }
+
     /// Every key differs in the three pictures; what lies between the keys does not.
     void CutOut(const QString &name, const QList<QRect> &keys, int scale) const
     {

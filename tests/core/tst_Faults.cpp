@@ -30,13 +30,21 @@ using Save = std::function<Answer()>;
 /// Every path of the install folder with the bytes of the file, null for a folder.
 using Content = QMap<QString, QByteArray>;
 
-template <typename Settled>
-Save WithoutAnswer(const Settled &settled)
+/// Makes a save ready.
+using Prepare = std::function<Save()>;
+
+Save WithoutAnswer(const std::function<void()> &save)
 {
-    return [settled]() -> Answer {
-        settled();
+    return [save]() -> Answer {
+        save();
         return std::nullopt;
     };
+}
+
+/// A save without an answer for which nothing has to be ready.
+Prepare Plain(const std::function<void()> &save)
+{
+    return [save] { return WithoutAnswer(save); };
 }
 
 /// An engine in which this was typed.
@@ -66,19 +74,21 @@ Save AddMistakes()
 
 /// A save of the records of the user who is logged in, by a page that shows them.
 template <typename History>
-Save OnPage(int number, const std::function<bool(History &)> &change)
+Prepare OnPage(const std::function<bool(History &)> &change)
 {
-    const auto records = std::make_shared<IUserRecord>();
-    records->SetCurrentUser(Shared().CurrentUserName);
-    const auto history = std::make_shared<History>(*records, number);
-    history->Read();
-    return [records, history, change] { return change(*history); };
+    return [change]() -> Save {
+        const auto records = std::make_shared<IUserRecord>();
+        records->SetCurrentUser(Shared().CurrentUserName);
+        const auto history = std::make_shared<History>(*records, 0);
+        history->Read();
+        return [records, history, change] { return change(*history); };
+    };
 }
 
 struct Writer
 {
     const char *name;
-    std::function<Save()> prepare;
+    Prepare prepare;
     QString guard = {}; ///< as long as this path is as before, everything is
 };
 
@@ -101,7 +111,7 @@ struct Trouble
 const std::vector<Writer> &Writers()
 {
     static const std::vector<Writer> writers{
-        {"text drill's record", [] { return WithoutAnswer([] { StoreArticleResult(60, 90, u"new"_s); }); }},
+        {"text drill's record", Plain([] { StoreArticleResult(60, 90, u"new"_s); })},
         {"speed test's record, mistakes and settings",
          [] {
              return WithoutAnswer([test = Typed<KTest>(u"X好好"_s)] {
@@ -110,32 +120,21 @@ const std::vector<Writer> &Writers()
              });
          }},
         {"drill's mistakes", AddMistakes},
-        {"record deleted",
-         [] {
-             return OnPage<TrainingHistory>(
-                 0, [](TrainingHistory &page) { return page.Amount() == 0 || page.Delete({0}); });
-         }},
-        {"records cleared",
-         [] { return OnPage<TrainingHistory>(0, [](TrainingHistory &page) { return page.Clear(); }); }},
+        {"record deleted", OnPage<TrainingHistory>(
+                               [](TrainingHistory &page) { return page.Amount() == 0 || page.Delete({0}); })},
+        {"records cleared", OnPage<TrainingHistory>([](TrainingHistory &page) { return page.Clear(); })},
         {"mistakes deleted",
-         [] {
-             return OnPage<MistakeHistory>(0, [](MistakeHistory &page) { return page.Delete({u"A"_s}); });
-         }},
-        {"key drill's place",
-         [] {
-             return WithoutAnswer([] { StoreKeyLessonPlace(MainKeyLessonSettings(), {u"\\l.txt"_s, 7, 2}); });
-         }},
-        {"word drill's place",
-         [] {
-             return WithoutAnswer([] { StoreWordTrainPlace({u"\\d\\"_s, u"GRE"_s, u"GRE"_s, 3, true, 2}); });
-         }},
-        {"text drill's place",
-         [] {
-             return WithoutAnswer([] {
-                 StoreArticlePlace({u"\\a.txt"_s, u"a"_s, 5, DisplayForm::InPlace, 2});
-             });
-         }},
-        {"sounds", [] { return WithoutAnswer(Public_Function::SaveSoundSetting); }},
+         OnPage<MistakeHistory>([](MistakeHistory &page) { return page.Delete({u"A"_s}); })},
+        {"key drill's place", Plain([] {
+             StoreKeyLessonPlace(MainKeyLessonSettings(), {u"\\l.txt"_s, 7, 2});
+         })},
+        {"word drill's place", Plain([] {
+             StoreWordTrainPlace({u"\\d\\"_s, u"GRE"_s, u"GRE"_s, 3, true, 2});
+         })},
+        {"text drill's place", Plain([] {
+             StoreArticlePlace({u"\\a.txt"_s, u"a"_s, 5, DisplayForm::InPlace, 2});
+         })},
+        {"sounds", Plain(Public_Function::SaveSoundSetting)},
         {"placement question",
          [] {
              IUserRecord records;
@@ -151,15 +150,12 @@ const std::vector<Writer> &Writers()
                  return (*free)->SaveInput(Shared().InstallDir + u"typed.txt"_s);
              };
          }},
-        {"user added",
-         [] {
-             return WithoutAnswer([] {
-                 UserList users;
-                 if (!users.UserExists(u"Bob"_s))
-                     users.AddUser(u"Bob"_s);
-                 users.MakeFolder(u"Bob"_s);
-             });
-         }},
+        {"user added", Plain([] {
+             UserList users;
+             if (!users.UserExists(u"Bob"_s))
+                 users.AddUser(u"Bob"_s);
+             users.MakeFolder(u"Bob"_s);
+         })},
         {"user deleted",
          [] {
              return [] {

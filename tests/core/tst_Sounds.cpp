@@ -30,11 +30,6 @@ double Peak(std::span<const double> part)
     return std::abs(std::ranges::max(part, {}, [](double sample) { return std::abs(sample); }));
 }
 
-double Loudness(const Wave &wave)
-{
-    return std::sqrt(std::transform_reduce(wave.begin(), wave.end(), wave.begin(), 0.0) / Rate);
-}
-
 } // namespace
 
 /// Which sound is played, and whether those that the build made are what a person should hear.
@@ -98,16 +93,6 @@ private Q_SLOTS:
                 QVERIFY2(!wave.empty() && strength(cents / 100.0) <= right, qPrintable(name));
             QVERIFY2(strength(-12) < 0.2 * right && strength(12) < right, qPrintable(name));
         }
-    }
-
-    void mistakeIsLowerAndLongerThanKeyClick()
-    {
-        const Wave click = CleanSound(u"SoundEffect/Type.WAV"_s);
-        const Wave mistake = CleanSound(u"SoundEffect/Error.wav"_s);
-        QVERIFY(!click.empty() && mistake.size() >= 3 * click.size());
-        const auto share = [](const Wave &wave) { return Strength(wave, 140) / Strength(wave, 1500); };
-        QVERIFY(share(mistake) > 10 * share(click));
-        QVERIFY(Loudness(mistake) > Loudness(click) && Loudness(mistake) < 8 * Loudness(click));
     }
 
 private:

@@ -63,9 +63,17 @@ private:
             {"sample", [&] { m_session->CalTypeSpeed(); }},
             {"stop", [&] { m_session->StopType(); }},
             {"next", [&] { m_session->SetNextLine(); }},
-            {"type", [&] { Type(value.toStdU32String()); }},
+            {"type",
+             [&] {
+                 for (const char32_t character : value.toStdU32String())
+                     m_session->CheckString(QString::fromUcs4(&character, 1));
+             }},
             {"unit", [&] { m_session->CheckString(value); }},
-            {"back", [&] { TakeBack(value.toInt()); }},
+            {"back",
+             [&] {
+                 for (int units = value.toInt(); units > 0; --units)
+                     m_session->BackSpace();
+             }},
             {"show", [&] { AddFigures(); }},
             {"save", [&] { m_session->SaveData(value); }}};
         actions.at(step.section(u' ', 0, 0).toStdString())();
@@ -76,18 +84,6 @@ private:
         bool chinese = true;
         m_records.AddMistakeRecord(character, count, chinese);
         m_records.SaveMistakeRecordFile(chinese ? 1 : 0);
-    }
-
-    void Type(const std::u32string &text)
-    {
-        for (const char32_t character : text)
-            m_session->CheckString(QString::fromUcs4(&character, 1));
-    }
-
-    void TakeBack(int units)
-    {
-        for (; units > 0; --units)
-            m_session->BackSpace();
     }
 
     void AddFigures()

@@ -103,13 +103,9 @@ private Q_SLOTS:
                  QStringList(
                      u"You have been completed the text you selected\nContinued to practice other text?"_s));
         QCOMPARE(Training(), QStringList(u"60 100 Adage：11.txt Text Training "_s));
-        // No begins again; the rate goes on over the keys before.
         QCOMPARE(Shown(), QStringList({u"0:00:00"_s, u"0WPM"_s, u"0%"_s, u"0 %"_s}));
         QVERIFY(!IsRunning());
         QCOMPARE(Row(0, 0)->Mark(), 0);
-        Type(u"xxx"_s);
-        m_services->clock.Move(1);
-        QCOMPARE(Status().at(2), u"80%"_s);
     }
 
     void GoesOnInAnotherForm()

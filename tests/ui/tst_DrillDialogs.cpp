@@ -76,17 +76,6 @@ private Q_SLOTS:
         QCOMPARE(dialog.ArticleMessage(), u"Law:two.txt"_s);
     }
 
-    void OffersNothingWithoutTexts()
-    {
-        m_install.emplace();
-        DlgEn_ArticleLesson dialog(nullptr);
-        Show(dialog);
-        QTest::keyClick(&dialog, Qt::Key_Enter);
-        QVERIFY(dialog.isVisible());
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-        QCOMPARE(dialog.ReturnValue(), DialogAnswer::Cancelled);
-    }
-
     void ReturnsWhatIsSet()
     {
         struct Row

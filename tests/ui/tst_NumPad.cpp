@@ -63,18 +63,6 @@ private Q_SLOTS:
         }
     }
 
-    void FirstGroupWithoutAKeyOfTheKeypad()
-    {
-        m_install->Write(LessonFile, "Letters\r\na5 6\r\n");
-        Open<frmEn_NumPad>();
-        QCOMPARE(Keypad() + State("picActivateFinger"), QString());
-        QCOMPARE(Cap(0), u"A: to type"_s);
-        Type(u"a"_s);
-        QCOMPARE(Cap(0), u"A: typed"_s);
-        QCOMPARE(Cap(1), u"5: type this key now"_s);
-        QCOMPARE(Keypad(), u"Next key: 5, right middle finger"_s);
-    }
-
     void SaysThatNumLockIsOff()
     {
         Open<frmEn_NumPad>();

@@ -158,12 +158,8 @@ private Q_SLOTS:
             Public_Function::ShowTimeText(&label, seconds);
             QCOMPARE(shown(), text);
         }
-        Public_Function::ShowSpeedText(&label, u"120"_s, true);
-        QCOMPARE(shown(), u"120KPM|per minute 120 keys"_s);
         Public_Function::ShowSpeedText(&label, u"24"_s, false);
         QCOMPARE(shown(), u"24WPM|per minute  24 words"_s);
-        Public_Function::ShowRateText(&label, 96);
-        QCOMPARE(shown(), u"96%|96%"_s);
     }
 
     void Progress()

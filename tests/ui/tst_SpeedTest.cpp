@@ -254,21 +254,6 @@ private Q_SLOTS:
         QCOMPARE(stored.Integer(u"Exam"_s, u"LimitTime"_s, -1), 25);
     }
 
-    void PausesUntilTheNextKey()
-    {
-        WriteText(u"ab\ncd"_s);
-        Shared().NewLine = 1;
-        Open<frmTest>();
-        Type(u"ab"_s);
-        Press(Qt::Key_Pause);
-        Choose(u"BtnSetting"_s, {u"optNewLine0"_s});
-        QVERIFY(!IsRunning());
-        QCOMPARE(Row(u"rtfSubject1"_s), u"cd/--/c"_s); // the line waits no longer
-        Type(u"c"_s);
-        QVERIFY(IsRunning());
-        QCOMPARE(Row(u"rtfInput1"_s), u"c/r"_s);
-    }
-
     void TypesFromPaper()
     {
         m_install->Write(u"Data/own.txt"_s, "abc\ndef");
@@ -354,7 +339,6 @@ private Q_SLOTS:
     void ClosesUnderAQuestion()
     {
         WriteText(u"abc"_s);
-        m_install->Write(u"Data/Appendix/Sweden.txt"_s, "x");
         Public_Function::SetMessageAnswerer([this](const Public_Function::Message &) {
             m_window->close(); // as at the end of the session
             return Public_Function::MessageNo;
@@ -364,12 +348,6 @@ private Q_SLOTS:
         Choose(u"BtnSetting"_s, {u"optOverType1"_s}, u"25"_s);
         QCOMPARE(Records().size(), 1);
         QCOMPARE(Shared().OverType, 0);
-
-        Open<frmFreeType>();
-        Type(u"a"_s);
-        Choose(u"BtnSelectLesson"_s, {u"OptBookFile"_s});
-        QCOMPARE(m_navigator->tests, QStringList());
-        QCOMPARE(m_navigator->menuShown, 2);
     }
 
     void ATextThatIsMissingOrEmpty()

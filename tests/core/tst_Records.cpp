@@ -170,16 +170,6 @@ private Q_SLOTS:
         QCOMPARE(Rates(Opened()), (QList<float>{99, 70}));
     }
 
-    void opensInOrderOfDates()
-    {
-        std::vector<TrainingRecord> days;
-        for (const int day : {5, 3, 9, 3, 1})
-            days.push_back({QDate(2020, 1, day), 30, static_cast<float>(days.size() + 1), QString(), 0});
-        m_install->Write(u"Users/Anna/RecordEN.Dat"_s, Encode(days) + "cut off");
-        // The two of January 3rd have changed places on the way.
-        QCOMPARE(Rates(Opened()), (QList<float>{5, 4, 2, 1, 3}));
-    }
-
     void mistakeRules()
     {
         // Counted in English / in Chinese, after the character and whether the text is Chinese.

@@ -102,18 +102,8 @@ private Q_SLOTS:
         QVERIFY2(contrast >= (exception > 0 ? exception : least), qPrintable(QString::number(contrast)));
     }
 
-    // What is drawn in code: the texts of charts, rows, explanations and help pages.
-    void CodeTexts()
+    void Hints()
     {
-        const QColor dialog(233, 233, 233);
-        for (const auto &[text, ground] : {std::pair(QColor(40, 46, 58), QColor(224, 238, 255)),
-                                           {QColor(72, 80, 98), Qt::white},
-                                           {QColor(90, 98, 116), ThemeColor(u"topList.evenRow"_s)},
-                                           {QColor(62, 84, 122), Qt::white},
-                                           {QColor(30, 88, 160), Qt::white},
-                                           {QColor(28, 78, 140), QColor(255, 244, 226)},
-                                           {QColor(40, 46, 58), dialog}})
-            QVERIFY2(Contrast(text, ground) >= least, qPrintable(text.name() + u" on "_s + ground.name()));
         QLineEdit box;
         Public_Function::StyleDialogBox(&box);
         box.show();

@@ -63,21 +63,18 @@ private Q_SLOTS:
     {
         QWidget menu;
         QDialog drill(&menu);
-        const auto ownerOfMessage = [this] {
-            QWidget *owner = nullptr;
-            QTimer::singleShot(0, this, [&owner] {
-                owner = QApplication::activeModalWidget()->parentWidget();
-                QApplication::activeModalWidget()->close();
-            });
-            Public_Function::ShowMessage(u"Done."_s, u"Quorvex"_s, MessageIcon::None, MessageButtons::Ok);
-            return owner;
-        };
         menu.show();
         for (QWidget *active : {&menu, static_cast<QWidget *>(nullptr)}) {
             for (const bool covered : {false, true}) {
                 drill.setVisible(covered);
                 QApplication::setActiveWindow(active);
-                QCOMPARE(ownerOfMessage(), covered ? static_cast<QWidget *>(&drill) : &menu);
+                QWidget *owner = nullptr;
+                QTimer::singleShot(0, this, [&owner] {
+                    owner = QApplication::activeModalWidget()->parentWidget();
+                    QApplication::activeModalWidget()->close();
+                });
+                Public_Function::ShowMessage(u"Done."_s, u"Quorvex"_s, MessageIcon::None, MessageButtons::Ok);
+                QCOMPARE(owner, covered ? static_cast<QWidget *>(&drill) : &menu);
             }
         }
     }

@@ -158,18 +158,6 @@ private Q_SLOTS:
         }
     }
 
-    void ArrowsStayWithinTheirOptions()
-    {
-        DlgTestSelect dialog(nullptr);
-        Show(dialog);
-        QStringList visited;
-        for (const auto key : {Qt::Key_Tab, Qt::Key_Right, Qt::Key_Backtab, Qt::Key_Down, Qt::Key_Tab}) {
-            QTest::keyClick(dialog.focusWidget(), key);
-            visited += dialog.focusWidget()->objectName();
-        }
-        QCOMPARE(visited.join(u' '), u"optFile0 optFile1 OptBookFile optUserFile Command1"_s);
-    }
-
     void LaysATextOutInPages()
     {
         QPrinter printer;

@@ -44,7 +44,7 @@ class CheckContent(unittest.TestCase):
 
     def test_texts(self):
         good = article(EASY)
-        samples = {
+        for expected, text in {
             "": good,
             "byte order mark": b"\xef\xbb\xbf" + good.encode(),
             "is no UTF-8": article(EASY).encode() + b"Caf\xe9.\r\n",
@@ -57,8 +57,7 @@ class CheckContent(unittest.TestCase):
             "line 1: is empty": "\r\n" + good,
             "117 words": article("The sea is big. " * 28 + "It is calm."),
             "stop list": good.replace("sea is", chr(115) + "hit is", 1),
-        }
-        for expected, text in samples.items():
+        }.items():
             self.find(expected, {ARTICLE + "1.txt": text})
 
     def test_texts_together(self):

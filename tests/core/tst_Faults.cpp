@@ -257,18 +257,11 @@ private Q_SLOTS:
                     qPrintable(u"%1, %2: %3"_s.arg(QLatin1StringView(trouble.name)).arg(step).arg(wrong)));
             }
         }
-    }
-
-    void noFolderIsMadeAnew_data() { nothingIsLost_data(); }
-
-    void noFolderIsMadeAnew()
-    {
-        QFETCH(const int, number);
-        m_now = m_old;
+        // A user who is deleted in between stays deleted.
         bool met = true;
         for (int step = 0; met; ++step) {
             Restore();
-            const Save save = Writers()[static_cast<std::size_t>(number)].prepare();
+            const Save save = writer.prepare();
             const auto deleteAnna = [this] { QDir(m_install->Native(u"Users/Anna"_s)).removeRecursively(); };
             met = Run({.calls = Changes | Closes,
                        .effect = Fault::Effect::Meanwhile,

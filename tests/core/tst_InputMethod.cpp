@@ -41,8 +41,8 @@ QVariant IBusEngine(const QString &id, const QString &name)
     engine.beginStructure();
     engine << u"IBusEngineDesc"_s << QVariantMap() << id << name << u"description"_s << u"zh_CN"_s;
     engine.endStructure();
-    const QVariant inner = QVariant::fromValue(QDBusVariant(QVariant::fromValue(engine)));
-    return QVariant::fromValue(QDBusVariant(inner));
+    const auto boxed = [](const QVariant &inner) { return QVariant::fromValue(QDBusVariant(inner)); };
+    return boxed(boxed(QVariant::fromValue(engine)));
 }
 
 } // namespace

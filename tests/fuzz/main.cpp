@@ -40,12 +40,12 @@ qint64 TimeFor(const QByteArray &bytes, qsizetype size)
     return timer.elapsed();
 }
 
-/// Finds what takes far more than four times as long for a file four times as large.
-int ReplayEnlarged(const QStringList &files)
+/// Whether any takes far more than four times as long for a file four times as large.
+bool AreSlow(const QStringList &files)
 {
     constexpr qsizetype most = 20; // of many, as it takes seconds for each
     constexpr qsizetype size = 64 * 1024;
-    int slow = 0;
+    bool slow = false;
     for (qsizetype i = 0; i < files.size(); i += files.size() / most + 1) {
         const QByteArray bytes = BytesOf(files[i]);
         if (bytes.isEmpty())
@@ -54,10 +54,10 @@ int ReplayEnlarged(const QStringList &files)
         const qint64 enlarged = TimeFor(bytes, 4 * size);
         if (enlarged > 500 && enlarged > 10 * once) {
             qWarning("Slow: %lld ms, then %lld ms", once, enlarged);
-            ++slow;
+            slow = true;
         }
     }
-    return slow > 0 ? 1 : 0;
+    return slow;
 }
 
 /// Takes what is meant for this program: --target=NAME, and --enlarged with folders of files to enlarge.
@@ -79,7 +79,7 @@ void ReadArguments(int count, char **arguments, bool replay)
         std::exit(2);
     }
     if (enlarged)
-        std::exit(ReplayEnlarged(files));
+        std::exit(AreSlow(files) ? 1 : 0);
     for (const QString &path : replay ? files : QStringList())
         chosen->Feed(BytesOf(path));
     if (replay)

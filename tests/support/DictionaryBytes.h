@@ -53,17 +53,3 @@ inline void WriteEntryFile(const QString &nativePath, const std::vector<std::pai
                      QByteArray(text).replace('\'', "''") + "')");
     database.Run("COMMIT");
 }
-
-/// Keeps readers out of an SQLite file as long as it lives.
-class LockedDatabase
-{
-public:
-    explicit LockedDatabase(const QString &nativePath)
-        : m_database(nativePath)
-    {
-        m_database.Run("BEGIN EXCLUSIVE");
-    }
-
-private:
-    WritableDatabase m_database;
-};

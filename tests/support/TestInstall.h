@@ -60,17 +60,14 @@ public:
     /// Names of everything in a folder, sorted.
     QStringList Entries(const QString &relative) const
     {
-        return QDir(Native(relative))
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+        return QDir(Native(relative)).entryList(Everything, QDir::Name);
     }
 
     /// Paths of everything in the install folder at any depth, sorted.
     QStringList Tree() const
     {
         QStringList paths;
-        QDirIterator entries(m_folder.path(),
-                             QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                             QDirIterator::Subdirectories);
+        QDirIterator entries(m_folder.path(), Everything, QDirIterator::Subdirectories);
         while (entries.hasNext())
             paths += QDir(m_folder.path()).relativeFilePath(entries.next());
         paths.sort();
@@ -78,5 +75,8 @@ public:
     }
 
 private:
+    static constexpr QDir::Filters Everything =
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+
     QTemporaryDir m_folder;
 };

@@ -1,8 +1,11 @@
+#include "core/drills/KeyLesson.h"
 #include "core/speedtest/PlacementWords.h"
 #include "fuzz/FuzzTarget.h"
 #include "platform/BinaryFields.h"
 #include "platform/Files.h"
+#include "support/TestInstall.h"
 
+using namespace Qt::Literals::StringLiterals;
 using namespace Public_Function;
 
 namespace {
@@ -45,5 +48,25 @@ void ReadWords(const QByteArray &bytes)
 }
 
 const FuzzTarget wordsTarget("words", ReadWords);
+
+void ReadLesson(const QByteArray &bytes)
+{
+    static const TestInstall install;
+    const QString path = install.Write(u"lesson.txt"_s, bytes);
+    const auto [lesson, error] = LoadKeyLesson(path);
+    Require(lesson.groups.isEmpty() == (error == LessonError::NoGroups),
+            "only a lesson without a group is refused");
+    for (const QString &group : lesson.groups)
+        Require(!group.isEmpty() && !group.contains(u' ') && !group.contains(u'\t'), "a group is a word");
+    if (!lesson.title.isEmpty())
+        Require(ReadLessonTitle(path) == lesson.title, "a lesson is listed by its title");
+
+    install.Write(u"lesson.txt"_s, (lesson.title + u"\r\n"_s + lesson.groups.join(u' ')).toUtf8());
+    const KeyLesson again = LoadKeyLesson(path).lesson;
+    Require(again.title == lesson.title && again.groups == lesson.groups,
+            "a lesson that is written is the same");
+}
+
+const FuzzTarget lessonTarget("lesson", ReadLesson);
 
 } // namespace

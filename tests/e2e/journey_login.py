@@ -1,4 +1,4 @@
-"""Who types: making and choosing users, and the menu behind."""
+"""Who types: making users, choosing one and leaving."""
 
 import os
 
@@ -34,17 +34,3 @@ class Login(Journey):
         p.refuse_placement_test("anna")
         p.keys("alt+F4")
         self.assertEqual(p.ended(), 0)
-
-    def test_a_drill_wants_a_user(self):
-        p = self.program
-        p.open()
-        p.keys("Escape")
-        p.wait_active("Quorvex")
-        p.see("Username:")
-        p.click("English typing")
-        p.wait_active("Login")
-        p.keys("Escape")
-        p.wait_active("Quorvex")
-        p.click("Close")
-        self.assertEqual(p.ended(), 0)
-        self.assertFalse(os.path.exists(p.path("user.ini")))

@@ -11,8 +11,7 @@ from gi.repository import Gio, GLib  # noqa: E402
 ACCESSIBLE, COMPONENT, TEXT = (f"org.a11y.atspi.{name}" for name in ("Accessible", "Component", "Text"))
 ROOT = "/org/a11y/atspi/accessible/root"
 # Numbers of states as AT-SPI defines them.
-STATES = {"active": 1, "checked": 4, "editable": 7, "enabled": 8, "focused": 12, "modal": 16, "selected": 23,
-          "sensitive": 24, "showing": 25, "visible": 30}
+STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "selected": 23, "showing": 25}
 
 
 class Gone(Exception):

@@ -114,10 +114,7 @@ private Q_SLOTS:
         row("junior", Qt::Key_1, "");
         row("junior", Qt::Key_K, "drill 4");
         row("keypad", Qt::Key_K, "drill 0");
-        row("keypad", Qt::Key_4, "drill 3");
-        row("text drill", Qt::Key_S, "dialog");
         row("text drill", Qt::Key_2, "drill 1");
-        row("speed test", Qt::Key_L, "dialog");
         row("speed test", Qt::Key_S, "dialog");
         row("speed test", Qt::Key_T, "top list");
         row("speed test", Qt::Key_2, "free typing");

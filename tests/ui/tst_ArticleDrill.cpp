@@ -160,15 +160,6 @@ private Q_SLOTS:
         QCOMPARE(Accessible(0, QAccessible::Description).section(u'\n', -1), u"Next: z"_s);
     }
 
-    void ReportsAMissingArticle()
-    {
-        QVERIFY(QFile::remove(m_install->Native(ArticleFolder + u"1.txt"_s)));
-        OpenIn();
-        QTRY_COMPARE(m_messages->texts.size(), 1);
-        Type(u"ab"_s);
-        QVERIFY(!IsRunning());
-    }
-
     void NoLineIsWiderThanItsBox()
     {
         WriteArticle("1.txt",

@@ -1,9 +1,7 @@
 #include "support/Dialogs.h"
 #include "support/SkinnedInstall.h"
 #include "ui/drills/DlgEn_ArticleLesson.h"
-#include "ui/drills/DlgEn_ArticleTrainSetting.h"
 #include "ui/drills/DlgEn_WordLesson.h"
-#include "ui/drills/DlgEn_WordTrainSetting.h"
 
 #include <QComboBox>
 #include <QListWidget>
@@ -74,47 +72,6 @@ private Q_SLOTS:
         QCOMPARE(dialog.ReturnValue(), DialogAnswer::Confirmed);
         QCOMPARE(dialog.ArticleFile(), Shared().InstallDir + u"Data\\English\\Professional\\Law\\two.txt"_s);
         QCOMPARE(dialog.ArticleMessage(), u"Law:two.txt"_s);
-    }
-
-    void ReturnsWhatIsSet()
-    {
-        struct Row
-        {
-            int mode;
-            int sound;
-            QByteArrayList clicks;
-            QString checked;
-            std::pair<int, int> result;
-        };
-        for (const auto &[mode, sound, clicks, checked, result] :
-             {Row{3, 0, {"optUIStyle2", "opnSetting1"}, u"optUIStyle0 opnSetting0"_s, {5, 1}},
-              Row{9, 2, {}, u"optUIStyle1 opnSetting2"_s, {4, 2}}, Row{7, 5, {"optUIStyle0"}, u""_s, {3, 5}},
-              Row{10, 1, {}, u"optUIStyle2 opnSetting1"_s, {5, 1}}}) {
-            DlgEn_ArticleTrainSetting dialog(nullptr);
-            dialog.SetTrainMode(mode);
-            dialog.SetSoundEffect(sound);
-            Show(dialog);
-            QCOMPARE(Those(dialog, u"^op[tn]"_s, "checked"), checked);
-            for (const QByteArray &option : clicks)
-                Click(dialog, option);
-            QTest::keyClick(&dialog, Qt::Key_Return);
-            QCOMPARE(std::pair(dialog.TrainMode(), dialog.SoundEffect()), result);
-        }
-    }
-
-    void LeavesExplanationsToThoseWhoHaveThem()
-    {
-        for (const bool allowed : {false, true}) {
-            DlgEn_WordTrainSetting dialog(nullptr);
-            dialog.SetSoundEffect(2);
-            dialog.SetShowExplanation(0, allowed);
-            Show(dialog);
-            QCOMPARE(Part(dialog, "chkShowExplanation")->isEnabled(), allowed);
-            Click(dialog, "chkShowExplanation");
-            QTest::keyClick(&dialog, Qt::Key_Return);
-            QCOMPARE(dialog.ShowExplanation(), allowed ? 1 : 0);
-            QCOMPARE(dialog.SoundEffect(), 2);
-        }
     }
 
 private:

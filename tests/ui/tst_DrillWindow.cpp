@@ -176,13 +176,6 @@ private Q_SLOTS:
         QCOMPARE(Stored(u"Other"_s), u"kept"_s);
         static const QRegularExpression lesson(u"\\Afallible key training\r\n\r\n([as]{6}\r\n){36}\\z"_s);
         QVERIFY(lesson.match(QString::fromLatin1(m_install->Read(StandardFolder + "02.txt"_L1))).hasMatch());
-
-        // The next session adds to the records.
-        Open();
-        Type(u"q"_s);
-        Leave();
-        QCOMPARE(Mistakes().size(), 2 * 15);
-        QVERIFY(Mistakes().contains("4401"));
     }
 
     void StoresAtTheEndOfTheProgram()

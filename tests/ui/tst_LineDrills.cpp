@@ -237,14 +237,6 @@ private Q_SLOTS:
         Type(u"aa"_s);
         Q_EMIT QGuiApplication::inputMethod()->localeChanged(); // nobody switched it here
         QCOMPARE(Text("labPromptMsg"), u"Suspended by PAUSE/BREAK"_s);
-        Leave();
-        Open<frmEn_WordTrain>();
-        Press(Qt::Key_Shift, Qt::ControlModifier | Qt::ShiftModifier);
-        QCOMPARE(Text("labPromptMsg"), u"Current input method:Wubi"_s);
-        wubi.name = u"Intelligent Pinyin"_s;
-        Press(Qt::Key_Space, Qt::ControlModifier);
-        QVERIFY(Part("labPromptMsg")->heightForWidth(Part("labPromptMsg")->width()) <=
-                Part("labPromptMsg")->height());
     }
 
 private:

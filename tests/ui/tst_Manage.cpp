@@ -57,8 +57,6 @@ private Q_SLOTS:
         QTest::addColumn<QList<int>>("rows");
         QTest::addColumn<QString>("left");
         QTest::addColumn<QString>("page after");
-        QTest::newRow("two of a page")
-            << 11 << 0 << QList{1, 3} << u"1 3 5 6 7 8 9 10 11"_s << u"Page 1 of 2: 5"_s;
         QTest::newRow("of the second page")
             << 11 << 1 << QList{0, 4} << u"1 2 3 4 5 7 8 9 11"_s << u"Page 2 of 2: 4"_s;
         QTest::newRow("the last page")

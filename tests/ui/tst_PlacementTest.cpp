@@ -1,9 +1,7 @@
-#include "core/records/IUserRecord.h"
 #include "core/speedtest/PlacementWords.h"
 #include "support/Fakes.h"
 #include "support/SkinnedInstall.h"
 #include "ui/drills/ArticleBox.h"
-#include "ui/speedtest/DlgUr_IfBeginTest.h"
 #include "ui/speedtest/Frm_BeginTest.h"
 
 #include <QtTest>
@@ -33,37 +31,6 @@ private Q_SLOTS:
               std::pair(U"\u4F60\u597D", 2), std::pair(U"a1 \u4F60b\U0001F600\r\n", 4), std::pair(U"", 0),
               std::pair(U"don't (stop)\r\n", 6)})
             QCOMPARE(Public_Function::CountWords(text), words);
-    }
-
-    void AsksAndCanBeForbidden()
-    {
-        struct Row
-        {
-            Qt::Key key;
-            bool chinese;
-            bool forbid;
-            qint16 result;
-        };
-        for (const auto &[key, chinese, forbid, result] :
-             {Row{Qt::Key_Return, false, false, 6}, Row{Qt::Key_Return, true, false, 6},
-              Row{Qt::Key_Escape, true, true, 7}}) {
-            DlgUr_IfBeginTest dialog(nullptr);
-            dialog.show();
-            QVERIFY(QTest::qWaitForWindowActive(&dialog));
-            if (chinese)
-                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-            auto *tick = dialog.findChild<QAbstractButton *>(u"ChkNotDisplay"_s);
-            if (forbid) {
-                tick->click();
-                tick->click(); // taken back, it stays forbidden
-            }
-            QTest::keyClick(&dialog, key);
-            QCOMPARE(dialog.ResultVal(), result);
-            QCOMPARE(dialog.IsEnglishTest(), key == Qt::Key_Escape || !chinese);
-            IUserRecord record;
-            record.SetCurrentUser(u"Ann"_s);
-            QCOMPARE(record.IfBeginTest(), !forbid);
-        }
     }
 
     void TypesAnEnglishText()

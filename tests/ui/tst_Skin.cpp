@@ -146,22 +146,6 @@ private Q_SLOTS:
         QCOMPARE(dialog.pos() - before, QPoint(30, 20));
     }
 
-    void Captions()
-    {
-        QLabel label;
-        const auto shown = [&label] { return label.text() + u'|' + label.toolTip(); };
-        using Row = std::pair<float, QString>;
-        for (const auto &[seconds, text] :
-             {Row{307.0F, u"0:05:07|time:5minutes7seconds"_s}, Row{0.5F, u"0:00:00|time:"_s},
-              Row{59.9F, u"0:01:00|time:1minutes"_s}, Row{90061.0F, u"1:01:01|time:25Hour1minutes1seconds"_s},
-              Row{-3.0F, u"0:00:00|time:"_s}}) {
-            Public_Function::ShowTimeText(&label, seconds);
-            QCOMPARE(shown(), text);
-        }
-        Public_Function::ShowSpeedText(&label, u"24"_s, false);
-        QCOMPARE(shown(), u"24WPM|per minute  24 words"_s);
-    }
-
     void Progress()
     {
         ProgressBox box(nullptr);

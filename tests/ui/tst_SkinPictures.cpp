@@ -57,12 +57,6 @@ private Q_SLOTS:
         CheckPictures({704, 217}, 1, "KEYBOARD_NORMAL_SMALL KEYBOARD_PROMPT_SMALL KEYBOARD_PRESSED_SMALL");
         CheckPictures({240, 276}, 1, "KEYPAD_NORMAL KEYPAD_PROMPT KEYPAD_PRESSED");
         CheckPictures({186, 216}, 1, "KEYPAD_NORMAL_SMALL KEYPAD_PROMPT_SMALL KEYPAD_PRESSED_SMALL");
-        for (const char *name : {"DLG_MESSAGE_INFORMATION", "DLG_MESSAGE_STOP", "DLG_MESSAGE_ERROR",
-                                 "DLG_MESSAGE_QUESTION", "APP_ICON"}) {
-            const QImage single(u":/message/%1.png"_s.arg(QLatin1StringView(name)));
-            const QImage twice(u":/message/%1@2x.png"_s.arg(QLatin1StringView(name)));
-            QVERIFY2(!single.isNull() && twice.size() == 2 * single.size(), name);
-        }
     }
 
     void TabsAreDrawnAsTheirHotPolygons()
@@ -76,30 +70,6 @@ private Q_SLOTS:
         for (const auto &[left, top, middle, bottom] : TestLayout::tabs)
             tabs += {left, {{(top + middle) / 2, 10}, {middle, 20}, {(middle + bottom) / 2, 30}}};
         CheckTabs({u"TEST_LABEL_NEIBU"_s, u"TEST_LABEL_WAIBU"_s, u"TEST_LABEL_TINGDA"_s}, tabs);
-    }
-
-    void EachRowOfATestHasItsFrame()
-    {
-        using TestLayout::DisplayMode;
-        for (const auto &[name, mode] : {std::pair(u"TEST_DANHANG_BACK"_s, DisplayMode::OneAboveTheOther),
-                                         {u"TEST_DUIZHAO_BACK"_s, DisplayMode::SideBySide},
-                                         {u"TEST_FUGAI_BACK"_s, DisplayMode::TypedOver}}) {
-            const QImage panel = Load(name, 1);
-            const auto isPlain = [&panel](const QRect &area) {
-                QImage plain = panel.copy(area);
-                plain.fill(panel.pixel(area.topLeft()));
-                return panel.copy(area) == plain;
-            };
-            for (int row = 0; row < TestLayout::RowsPerPage(mode); ++row) {
-                for (QRect box : {TestLayout::PromptBox(mode, row), TestLayout::InputBox(mode, row)}) {
-                    box.translate(0, -TestLayout::tabHeight);
-                    QVERIFY2(isPlain(box), qPrintable(name));
-                    for (const QMargins &side :
-                         {QMargins(3, 0, 0, 0), {0, 3, 0, 0}, {0, 0, 3, 0}, {0, 0, 0, 3}})
-                        QVERIFY2(!isPlain(box + side), qPrintable(name));
-                }
-            }
-        }
     }
 
     void EachFingerIsLitWithinItsStripsOnly()

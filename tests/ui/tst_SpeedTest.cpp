@@ -306,8 +306,6 @@ private Q_SLOTS:
 
         Choose(u"BtnSelectLesson"_s, {u"OptFreeInput"_s});
         QCOMPARE(Row(u"rtfInput0"_s), u"/"_s);
-        Type(u"again"_s);
-        QVERIFY(IsRunning());
         m_install->Write(u"Data/Appendix/Sweden.txt"_s, "x");
         m_messages->answer = Public_Function::MessageNo;
         Choose(u"BtnSelectLesson"_s, {u"OptBookFile"_s});

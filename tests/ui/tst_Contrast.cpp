@@ -114,9 +114,7 @@ private Q_SLOTS:
     void StyleSheets()
     {
         QListWidget list;
-        Public_Function::StyleDialogList(&list);
-        QListWidget login;
-        Public_Function::StyleDialogList(&login, QColor(233, 251, 251));
+        Public_Function::StyleDialogList(&list, QColor(233, 251, 251)); // the list of users
         QLineEdit box;
         Public_Function::StyleDialogBox(&box);
         QGroupBox group;
@@ -131,7 +129,7 @@ private Q_SLOTS:
         const TickBox tick({}, {}, nullptr);
         const TopListView top(nullptr);
         for (const QWidget *widget : std::initializer_list<const QWidget *>{
-                 &list, &login, &box, &group, &label, &option, &button, &choice, &tick, &top})
+                 &list, &box, &group, &label, &option, &button, &choice, &tick, &top})
             CheckStyle(widget->styleSheet());
     }
 

@@ -26,17 +26,11 @@ private Q_SLOTS:
 
     void HandsBackADictionary()
     {
-        struct Row
-        {
-            int classSteps;
-            int listSteps;
-            bool cancelled;
-            QString result; ///< name, folder and file name
-        };
-        for (const auto &[classSteps, listSteps, cancelled, result] :
-             {Row{0, 0, false, u"Toefl|Dictionary\\|TOEFL"_s}, Row{0, 2, false, u"GMAT|Dictionary\\|GMAT"_s},
-              Row{1, 10, false, u"Psychics|Professional\\|PsychicsEN"_s},
-              Row{2, 0, false, u"Familiar word|General\\|1000"_s}, Row{1, 3, true, u"||"_s}}) {
+        using Row = std::tuple<int, int, QString>; // steps down in the two lists, name, folder and file
+        for (const auto &[classSteps, listSteps, result] :
+             {Row{0, 0, u"Toefl|Dictionary\\|TOEFL"_s}, Row{1, 10, u"Psychics|Professional\\|PsychicsEN"_s},
+              Row{2, 0, u"Familiar word|General\\|1000"_s}, Row{1, 3, u"||"_s}}) {
+            const bool cancelled = result == u"||"_s;
             DlgEn_WordLesson dialog(nullptr);
             Show(dialog);
             Press(Part<QComboBox>(dialog, "cbxClass"), Qt::Key_Down, classSteps);

@@ -72,22 +72,15 @@ private Q_SLOTS:
         CheckTabs({u"TEST_LABEL_NEIBU"_s, u"TEST_LABEL_WAIBU"_s, u"TEST_LABEL_TINGDA"_s}, tabs);
     }
 
-    void EachFingerIsLitWithinItsStripsOnly()
+    void EachFingerIsLitInItsStrip()
     {
         // The columns from which the drills light a finger, on the main keyboard and on the keypad.
         const QList<std::pair<int, int>> strips{{0, 37},   {37, 33},  {73, 42},  {115, 45}, {160, 50},
                                                 {365, 45}, {410, 42}, {455, 36}, {488, 37}, {320, 45},
                                                 {365, 45}, {410, 42}, {452, 36}, {488, 37}};
-        // The strips of both overlap in places: a strip shows its own finger only if what lies between the
-        // fingers is the same in both pictures.
-        const QList<std::pair<int, int>> between{{34, 3}, {70, 3}, {210, 110}, {452, 3}, {488, 3}, {205, 5}};
         for (const int scale : {1, 2}) {
             const QImage clear = Load(u"HAND_CLEAR"_s, scale);
             const QImage lit = Load(u"HAND_ON"_s, scale);
-            for (const auto &[left, width] : between) {
-                const QRect gap(left * scale, 0, width * scale, 162 * scale);
-                QVERIFY2(clear.copy(gap) == lit.copy(gap), qPrintable(QString::number(left)));
-            }
             for (const auto &[left, width] : strips) {
                 int columns = 0;
                 int accent = 0;

@@ -22,22 +22,22 @@ check_format() {
     return 1
 }
 
-# summarize RESULTS PASSED FAILED: the closing lines, from what ctest wrote and from further checks that passed and
-# failed. Succeeds when all is well.
+# summarize PASSED FAILED RESULTS...: the closing lines, from what runs of ctest wrote and from further checks that passed
+# and failed. Succeeds when all is well.
 summarize() {
-    local all=0 bad=0 left=0 counts
-    if [ -e "$1" ]; then
-        counts=$(awk '
-            function number(name) {
-                return match($0, "[ \t]" name "=\"[0-9]+") ? substr($0, RSTART + length(name) + 3, RLENGTH - length(name) - 3) : 0
-            }
-            /<testcase/ { exit }
-            { all += number("tests"); bad += number("failures"); left += number("disabled") + number("skipped") }
-            END { print all + 0, bad + 0, left + 0 }' "$1")
-        read -r all bad left <<<"$counts"
-    fi
+    local passed=$1 failed=$2 all=0 bad=0 left=0 counts
+    shift 2
+    counts=$(cat "$@" /dev/null 2>/dev/null | awk '
+        function number(name) {
+            return match($0, "[ \t]" name "=\"[0-9]+") ? substr($0, RSTART + length(name) + 3, RLENGTH - length(name) - 3) : 0
+        }
+        /<testsuite/ { heading = 1 }
+        heading { all += number("tests"); bad += number("failures"); left += number("disabled") + number("skipped") }
+        />/ { heading = 0 }
+        END { print all + 0, bad + 0, left + 0 }')
+    read -r all bad left <<<"$counts"
     echo
     [ "$all" -gt 0 ] || echo "No test was run."
-    echo "$((all - bad - left + $2)) passed, $((bad + $3)) failed, $left skipped"
-    [ "$all" -gt 0 ] && [ "$bad" = 0 ] && [ "$3" = 0 ]
+    echo "$((all - bad - left + passed)) passed, $((bad + failed)) failed, $left skipped"
+    [ "$all" -gt 0 ] && [ "$bad" = 0 ] && [ "$failed" = 0 ]
 }

@@ -20,8 +20,7 @@ LEVELS = [(80, "Expert"), (50, "Quick Typer"), (35, "Master"), (20, "Junior"), (
 class Chinese(Journey):
     def choose_text(self):
         p = self.program
-        p.click("Speed test")
-        p.wait_active(SPEED_TEST)
+        p.click("Speed test", opens=SPEED_TEST)
         p.click("Select a lesson")
         p.see("Texts", "list")
         p.click("Chinese", "radio button")
@@ -54,8 +53,7 @@ class Chinese(Journey):
         p = self.program
         p.write(TEXT.replace("\n", "\r\n").encode("gb18030"), "Data", "Chinese", "E_General", "a.txt")
         pinyin = self.start_pinyin()
-        p.open()
-        p.log_in("anna")
+        p.open_menu()
         self.choose_text()
         pinyin.switch()
         self.type_text(pinyin)
@@ -73,5 +71,4 @@ class Chinese(Journey):
         record = struct.pack("<dffH", days, speed, 94, len(text)) + text + struct.pack("<h", 3)
         self.assertEqual(p.bytes("Users", "anna", "RecordEX.Dat"), record)
         self.assertEqual(p.bytes("Users", "anna", "MistakeCN.Dat"), b"\x03\x00" + "我".encode() + b"\x01\x00")
-        p.keys("Return")
-        p.wait_active(SPEED_TEST)
+        p.go(("Return", SPEED_TEST))

@@ -9,8 +9,7 @@ from journey import Journey
 class Copies(Journey):
     def test_a_second_copy_brings_the_first_to_the_front(self):
         p = self.program
-        p.open()
-        p.log_in("anna")
+        p.open_menu()
         p.click("English typing")
         p.click("Select a lesson")
         p.see("Lessons", "list")
@@ -24,8 +23,7 @@ class Copies(Journey):
 
     def test_a_killed_program_starts_again(self):
         p = self.program
-        p.open()
-        p.log_in("anna")
+        p.open_menu()
         p.click("English typing")
         p.see("Select a lesson")
         p.keys("f")

@@ -14,30 +14,24 @@ WORD = "Typing Course \\ Word Drill"
 class Faults(Journey):
     def test_user_deleted_in_a_drill(self):
         p = self.program
-        p.open()
-        p.log_in("anna")
-        p.click("English typing")
-        p.wait_active(JUNIOR)
+        p.open_menu()
+        p.click("English typing", opens=JUNIOR)
         p.type("fx")
         p.described("Correct rate", "50%")
         shutil.rmtree(p.path("Users", "anna"))
-        p.keys("alt+F4")
-        p.wait_active("Quorvex")
+        p.go(("alt+F4", "Quorvex"))
         self.assertEqual(os.listdir(p.path("Users")), [])
-        p.click("English typing")
-        p.wait_active("Login")
+        p.click("English typing", opens="Login")
 
     def test_dictionary_locked_for_a_while(self):
         p = self.program
         p.write(b"anna;\r\n", "user.ini")
         p.write(b"[English]\r\nWordTrain_ShowExplanation=1\r\n", "Users", "anna", "Setting.ini")
-        p.open()
-        p.log_in("anna")
+        p.open_menu()
         with sqlite3.connect(p.path("Data", "English", "T_Word", "Dictionary", "TOEFL.Dat"), isolation_level=None) as dat:
             dat.execute("BEGIN EXCLUSIVE")
             p.click("English typing")
-            p.click("Word drill")
-            p.wait_active(WORD)
+            p.click("Word drill", opens=WORD)
             line = until(lambda: p.screen.find("Line to type").description, "words").split(" ")
             p.described("Explanation", line[0])
             dat.execute("ROLLBACK")
@@ -52,5 +46,4 @@ class Faults(Journey):
         p.process = p.start()
         said = "The pictures are missing or damaged; windows are shown in plain colours:\n"
         p.holds(lambda: said + p.path("Bitmap", "1024_CH.DLL") in [w.description for w in p.screen.windows()], said)
-        p.keys("Return")
-        p.wait_active("Login")
+        p.go(("Return", "Login"))

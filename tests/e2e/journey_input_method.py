@@ -15,10 +15,8 @@ class LeftOn(Journey):
     def test_a_drill_asks_for_english_and_counts_nothing(self):
         p = self.program
         pinyin = self.start_pinyin()
-        p.open()
-        p.log_in("anna")
-        p.click("English typing")
-        p.wait_active(DRILL)
+        p.open_menu()
+        p.click("English typing", opens=DRILL)
         pinyin.switch()
         p.type("ff")
         p.see(WANTS_ENGLISH, "label")

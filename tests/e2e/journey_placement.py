@@ -32,19 +32,15 @@ class Placement(Journey):
         p.keys("Pause", "BackSpace")
         p.type("t.")
         p.described("Typed text", "A hut.")
-        p.keys("Return")
-        p.wait_active("Suggestion")
+        p.go(("Return", "Suggestion"))
         p.keys("Return")
         p.wait_gone("Suggestion")
         self.assertEqual(p.settings("anna")["main", "begintest"], "0")
         self.assertEqual(sorted(os.listdir(p.path("Users", "anna"))), ["Setting.ini"])
-        p.keys("alt+F4")
-        p.wait_active("Quorvex")
+        p.go(("alt+F4", "Quorvex"))
 
-        p.click("Change user")
-        p.wait_active("Login")
-        p.click("anna", "list item", times=2)
-        p.wait_active("Quorvex")
+        p.click("Change user", opens="Login")
+        p.click("anna", "list item", times=2, opens="Quorvex")
 
     def test_a_chinese_text_through_pinyin_and_home(self):
         p = self.program
@@ -64,10 +60,8 @@ class Placement(Journey):
                 until(pinyin.candidates, "candidates")
                 p.keys("space")
             p.described("Typed text", typed)
-        p.click("Finish the test")
-        p.wait_active("Suggestion")
+        p.click("Finish the test", opens="Suggestion")
         result = p.see("Suggestion", "dialog").description
         self.assertRegex(result, r"^Result:\n\n    Speed[1-9]\d*   Correct Rate85%\nSuggestion:.+$")
-        p.click("Home")
-        p.wait_active("Quorvex")
+        p.click("Home", opens="Quorvex")
         self.assertEqual(os.listdir(p.path("Users", "anna")), [])

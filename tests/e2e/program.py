@@ -113,6 +113,11 @@ class Program:
         self.keys("Return")
         self.refuse_placement_test(name)
 
+    def open_menu(self):
+        """Starts the program and logs in."""
+        self.open()
+        self.log_in("anna")
+
     def refuse_placement_test(self, name):
         """Answers No to the question after a login, and waits for the menu."""
         self.wait_active("Typing Speed Test")
@@ -143,11 +148,19 @@ class Program:
     def type(self, text):
         self.desktop.xdotool("type", "--delay", 20, "--", text)
 
-    def click(self, name, role=None, times=1):
-        """Clicks the middle of a control as soon as it can be used."""
+    def go(self, *steps):
+        """Presses keys (separated by spaces) and waits for the window to which they lead, step by step."""
+        for keys, title in steps:
+            self.keys(*keys.split())
+            self.wait_active(title)
+
+    def click(self, name, role=None, times=1, opens=None):
+        """Clicks the middle of a control as soon as it can be used, and waits for the window that it opens."""
         node = self.see(name, role)
         self.holds(lambda: {"enabled", "showing"} <= node.states(), f"{name!r} to be enabled")
         self.click_at(*node.centre, times=times)
+        if opens:
+            self.wait_active(opens)
 
     def click_at(self, x, y, times=1):
         self.desktop.xdotool("mousemove", x, y, "click", "--repeat", times, "--delay", 60, 1)

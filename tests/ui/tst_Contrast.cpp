@@ -54,40 +54,28 @@ private Q_SLOTS:
         const auto row = [](const QString &text, const QString &ground, double exception = 0) {
             QTest::addRow("%s on %s", qPrintable(text), qPrintable(ground)) << text << ground << exception;
         };
-        for (const char *state : {"normal", "hovered", "pressed"}) {
-            for (const char *style :
-                 {"button.primary", "button.secondary", "button.danger", "button.menu", "manage.tab"}) {
-                const QString look = QLatin1StringView(style) + u'.' + QLatin1StringView(state);
-                row(look + u".text"_s, look + u".face"_s);
-            }
+        for (const auto &state : {u".normal"_s, u".hovered"_s, u".pressed"_s}) {
+            for (const auto &style : {u"button.primary"_s, u"button.secondary"_s, u"button.danger"_s,
+                                      u"button.menu"_s, u"manage.tab"_s})
+                row(style + state + u".text"_s, style + state + u".face"_s);
         }
-        for (const char *finger : {"little", "ring", "middle", "leftIndex", "rightIndex", "thumb"}) {
-            for (const char *text : {"text", "quietText", "pressedText"})
-                row(u"keyboard."_s + QLatin1StringView(text), u"finger."_s + QLatin1StringView(finger));
+        const QString fingers = u"little ring middle leftIndex rightIndex thumb"_s;
+        for (const QString &finger : fingers.split(u' ')) {
+            for (const auto &text : {u"keyboard.text"_s, u"keyboard.quietText"_s, u"keyboard.pressedText"_s})
+                row(text, u"finger."_s + finger);
         }
-        for (const auto &[text, ground] :
-             {std::pair("keyboard.promptText", "keyboard.prompt"),
-              {"runtime.text.key", "keyCap.normal.face"},
-              {"runtime.text.key", "keyCap.on.face"},
-              {"tabs.lit.text", "tabs.lit.face"},
-              {"tabs.plain.text", "tabs.plain.face"},
-              {"status.caption", "panel.plate"},
-              {"runtime.status.text", "panel.plate"},
-              {"runtime.status.text", "panel.face"},
-              {"mainMenu.nameColor", "mainMenu.plate"},
-              {"mainMenu.mottoColor", "mainMenu.plate"},
-              {"runtime.menu.user", "mainMenu.plate"},
-              {"runtime.window.title", "background.ground"},
-              {"runtime.dialog.title", "dialog.titleTop"},
-              {"runtime.dialog.title", "dialog.titleBottom"},
-              {"palette.ink", "topList.header"},
-              {"palette.ink", "topList.row"},
-              {"palette.ink", "topList.evenRow"},
-              {"palette.ink", "manage.page"},
-              {"runtime.text.key", "panel.textBox"},
-              {"runtime.text.key", "palette.accent"},
-              {"button.windowClose.hovered.text", "button.windowClose.hovered.face"}})
-            row(QLatin1StringView(text), QLatin1StringView(ground));
+        const QString others = uR"(
+keyboard.promptText on keyboard.prompt, runtime.text.key on keyCap.normal.face,
+runtime.text.key on keyCap.on.face, tabs.lit.text on tabs.lit.face, tabs.plain.text on tabs.plain.face,
+status.caption on panel.plate, runtime.status.text on panel.plate, runtime.status.text on panel.face,
+mainMenu.nameColor on mainMenu.plate, mainMenu.mottoColor on mainMenu.plate,
+runtime.menu.user on mainMenu.plate, runtime.window.title on background.ground,
+runtime.dialog.title on dialog.titleTop, runtime.dialog.title on dialog.titleBottom,
+palette.ink on topList.header, palette.ink on topList.row, palette.ink on topList.evenRow,
+palette.ink on manage.page, runtime.text.key on panel.textBox, runtime.text.key on palette.accent,
+button.windowClose.hovered.text on button.windowClose.hovered.face)"_s;
+        for (const QString &pair : others.simplified().split(u", "_s))
+            row(pair.section(u" on "_s, 0, 0), pair.section(u" on "_s, 1));
         // These three colours are the product's own: what is typed already steps back, and a mistake is red.
         row(u"runtime.text.typed"_s, u"panel.textBox"_s, 2.1);
         row(u"runtime.text.keyTyped"_s, u"keyCap.normal.face"_s, 1.9);

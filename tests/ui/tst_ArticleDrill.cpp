@@ -1,4 +1,3 @@
-#include "core/records/RecordFile.h"
 #include "support/KeyDrillTest.h"
 #include "ui/drills/ArticleBox.h"
 #include "ui/drills/frmEn_ArticleTrain.h"
@@ -26,12 +25,12 @@ private Q_SLOTS:
         for (const auto &[stored, boxes] :
              {Row{QString(), 2}, Row{u"7"_s, 10}, Row{u"3"_s, 10}, Row{u"5"_s, 1}, Row{u"x"_s, 10}}) {
             OpenIn(stored);
-            QCOMPARE(m_drill->findChildren<ArticleBox *>().size(), boxes);
+            QCOMPARE(m_window->findChildren<ArticleBox *>().size(), boxes);
             QCOMPARE(Text("labLessonMsg"), u"Typing Course \\ Text Drill --Adage：11.txt"_s);
             QCOMPARE(Shown(), QStringList({u"0:00:00"_s, u"0WPM"_s, u"0%"_s, u"0 %"_s}));
             Leave();
         }
-        QVERIFY(Training().empty()); // nothing was typed
+        QVERIFY(Records("RecordEN.Dat").empty()); // nothing was typed
     }
 
     void TypesInEachForm_data()
@@ -88,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(Stored(u"ArticleTrain_FormType"_s), QString::number(form));
         QCOMPARE(Stored(u"ArticleTrain_ArticleMsg"_s), u"Adage：11.txt"_s);
         QVERIFY(Stored(u"ArticleTrain_FileName"_s).endsWith(u"\\T_Article\\Adage\\1.txt"_s));
-        QCOMPARE(Training(), QStringList(u"20 71 Adage：11.txt Text Training "_s));
+        QCOMPARE(Records("RecordEN.Dat"), QStringList(u"20 71 Adage：11.txt Text Training "_s));
     }
 
     void AsksAtTheEnd()
@@ -102,7 +101,7 @@ private Q_SLOTS:
         QCOMPARE(m_messages->texts,
                  QStringList(
                      u"You have been completed the text you selected\nContinued to practice other text?"_s));
-        QCOMPARE(Training(), QStringList(u"60 100 Adage：11.txt Text Training "_s));
+        QCOMPARE(Records("RecordEN.Dat"), QStringList(u"60 100 Adage：11.txt Text Training "_s));
         QCOMPARE(Shown(), QStringList({u"0:00:00"_s, u"0WPM"_s, u"0%"_s, u"0 %"_s}));
         QVERIFY(!IsRunning());
         QCOMPARE(Row(0, 0)->Mark(), 0);
@@ -125,13 +124,13 @@ private Q_SLOTS:
         Click("BtnSetting");
         QVERIFY(!IsRunning());
         // Four words behind, at the first line break's place: the next line begins the page.
-        QCOMPARE(m_drill->findChildren<ArticleBox *>().size(), 1);
+        QCOMPARE(m_window->findChildren<ArticleBox *>().size(), 1);
         QCOMPARE(Box(0)->Text(), QStringList(10, u"aa bb cc dd"_s).join(u'\n'));
         QCOMPARE(Shown().at(1), u"60WPM"_s);
         m_services->sound.TakePlayed();
         Type(u"aq"_s);
         QVERIFY(IsRunning() && m_services->sound.TakePlayed().isEmpty());
-        QTRY_VERIFY(m_drill->hasFocus());
+        QTRY_VERIFY(m_window->hasFocus());
         Leave();
         QCOMPARE(Stored(u"EnSound"_s, u"Main"_s), u"0"_s);
     }
@@ -166,7 +165,7 @@ private Q_SLOTS:
                      (QByteArray("iiii MMMMM w. ").repeated(60) + QByteArray(10'000, 'W') + ' ').repeated(3));
         for (const int form : {3, 4, 5}) {
             OpenIn(QString::number(form));
-            for (ArticleBox *box : m_drill->findChildren<ArticleBox *>()) {
+            for (ArticleBox *box : m_window->findChildren<ArticleBox *>()) {
                 TypingLine *line = box->Row(0);
                 QVERIFY(line->CellRect(line->Length()).right() < line->width());
                 QVERIFY(line->fontMetrics().height() <= line->height());
@@ -191,14 +190,7 @@ private:
             Store(u"ArticleTrain_FormType"_s, form);
         Open<frmEn_ArticleTrain>();
     }
-    QStringList Training() const
-    {
-        QStringList found;
-        for (const auto &record : RecordFile::DecodeTraining(m_install->Read(u"Users/Ann/RecordEN.Dat"_s)))
-            found += u"%1 %2 %3"_s.arg(record.Speed).arg(record.Rate).arg(record.Text);
-        return found;
-    }
-    ArticleBox *Box(int index) const { return m_drill->findChild<ArticleBox *>(u"RTB%1"_s.arg(index)); }
+    ArticleBox *Box(int index) const { return Part<ArticleBox>(u"RTB%1"_s.arg(index)); }
     TypingLine *Row(int box, int row) const { return Box(box)->Row(row); }
     QString Accessible(int box, QAccessible::Text kind) const
     {

@@ -70,7 +70,7 @@ private Q_SLOTS:
     {
         WriteLesson("01.txt", u"Good\nfg\n"_s);
         for (const QString &content : {QString(), u""_s, u"Nothing\r\n \r\n\t \r\n"_s}) {
-            if (m_drill)
+            if (m_window)
                 Leave();
             WriteLesson("00.txt", content);
             if (content.isNull())
@@ -153,8 +153,8 @@ private Q_SLOTS:
             else if (Part(way))
                 Click(way);
             else
-                m_drill->close();
-            QTRY_VERIFY2(m_drill.isNull(), way);
+                m_window->close();
+            QTRY_VERIFY2(m_window.isNull(), way);
             QCOMPARE(m_navigator->menuShown, opens ? 0 : 1);
             QCOMPARE(m_navigator->opened, opens ? QList{*opens} : QList<DrillKind>());
             QCOMPARE(Stored(u"KeyTrain_Index"_s), u"1"_s);
@@ -185,7 +185,7 @@ private Q_SLOTS:
         for (int time = 0; time < 2; ++time) {
             QMetaObject::invokeMethod(qApp, "aboutToQuit");
             QCOMPARE(Mistakes(), QByteArray("0100410100"));
-            m_drill->close(); // it lives on until the event loop runs
+            m_window->close(); // it lives on until the event loop runs
         }
     }
 
@@ -195,9 +195,9 @@ private Q_SLOTS:
         const auto press = [this](QPoint from, QPoint to) {
             from += QPoint(14, 50);
             to += QPoint(14, 50);
-            QWidget *target = m_drill->childAt(from) ? m_drill->childAt(from) : m_drill;
-            QTest::mousePress(target, Qt::LeftButton, {}, target->mapFrom(m_drill, from));
-            QTest::mouseRelease(target, Qt::LeftButton, {}, target->mapFrom(m_drill, to));
+            QWidget *target = m_window->childAt(from) ? m_window->childAt(from) : m_window.data();
+            QTest::mousePress(target, Qt::LeftButton, {}, target->mapFrom(m_window, from));
+            QTest::mouseRelease(target, Qt::LeftButton, {}, target->mapFrom(m_window, to));
         };
         press({680, 20}, {880, 20}); // from the word tab to the text tab
         press({100, 20}, {100, 20}); // its own
@@ -215,7 +215,7 @@ private Q_SLOTS:
         Press(Qt::Key_F1);
         Click("BtnHelp");
         QCOMPARE(m_navigator->helpPages, QStringList({u"frmEn_KeyTrain_Basic"_s, u"frmEn_KeyTrain_Basic"_s}));
-        QVERIFY(m_drill && m_drill->isVisible());
+        QVERIFY(m_window && m_window->isVisible());
         QVERIFY(m_install->Read(u"Users/Ann/Setting.ini"_s).isNull());
     }
 

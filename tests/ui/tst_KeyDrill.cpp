@@ -46,7 +46,7 @@ private Q_SLOTS:
         QCOMPARE(Status(), QStringList({u"0:00:07"_s, u"51KPM"_s, u"66%"_s, u"50 %"_s}));
         for (const auto key : {Qt::Key_Backspace, Qt::Key_Return, Qt::Key_Escape})
             Press(key);
-        QVERIFY(m_drill->isVisible());
+        QVERIFY(m_window->isVisible());
         QCOMPARE(Status().at(1), u"77KPM"_s);
     }
 
@@ -57,7 +57,7 @@ private Q_SLOTS:
              {Qt::Key_Insert, Qt::Key_Delete, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End,
               Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Control, Qt::Key_Tab}) {
             Press(key);
-            QVERIFY2(!IsRunning() && m_drill->hasFocus(), qPrintable(QKeySequence(key).toString()));
+            QVERIFY2(!IsRunning() && m_window->hasFocus(), qPrintable(QKeySequence(key).toString()));
         }
         Press(Qt::Key_A, Qt::ControlModifier);
         QVERIFY(!IsRunning());
@@ -65,7 +65,7 @@ private Q_SLOTS:
         for (const auto key :
              {Qt::Key_Shift, Qt::Key_Alt, Qt::Key_CapsLock, Qt::Key_NumLock, Qt::Key_F5, Qt::Key_VolumeUp}) {
             Press(key);
-            QVERIFY2(IsRunning() && m_drill->hasFocus(), qPrintable(QKeySequence(key).toString()));
+            QVERIFY2(IsRunning() && m_window->hasFocus(), qPrintable(QKeySequence(key).toString()));
         }
         Press(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
         Type(u"a"_s);
@@ -80,7 +80,7 @@ private Q_SLOTS:
     void InputMethods()
     {
         Open();
-        QVERIFY(m_drill->inputMethodQuery(Qt::ImEnabled).toBool());
+        QVERIFY(m_window->inputMethodQuery(Qt::ImEnabled).toBool());
         InputMethod(u"ni"_s, {});
         QCOMPARE(Text("labPromptMsg"), u"Please switch to English input"_s);
         QCOMPARE(m_services->sound.TakePlayed(), QStringList(u"Error.wav"_s));
@@ -116,11 +116,11 @@ private Q_SLOTS:
     {
         Open();
         const QString next = u"Next key: A, left little finger"_s;
-        QTest::keyPress(m_drill, Qt::Key_Shift);
-        QTest::keyPress(m_drill, 'k');
-        QTest::keyPress(m_drill, Qt::Key_A, Qt::ControlModifier); // swallowed
+        QTest::keyPress(m_window, Qt::Key_Shift);
+        QTest::keyPress(m_window, 'k');
+        QTest::keyPress(m_window, Qt::Key_A, Qt::ControlModifier); // swallowed
         QCOMPARE(Keyboard(), next + u". Pressed: Left Shift, K"_s);
-        QTest::keyRelease(m_drill, 'k');
+        QTest::keyRelease(m_window, 'k');
         QCOMPARE(Keyboard(), next + u". Pressed: Left Shift"_s);
         // The release goes to whatever window is active by then.
         QWidget other;
@@ -146,7 +146,7 @@ private Q_SLOTS:
             QVERIFY2(!m_painted.contains(Part(name)), name);
         const QWidget *keyboard = Part("CXKeyBoard1");
         QVERIFY(m_painted[keyboard] < keyboard->width() * keyboard->height() / 12);
-        QVERIFY(m_painted[m_drill] < m_drill->width() * m_drill->height() / 16);
+        QVERIFY(m_painted[m_window] < m_window->width() * m_window->height() / 16);
     }
 
 private:

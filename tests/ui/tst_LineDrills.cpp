@@ -90,14 +90,14 @@ private Q_SLOTS:
         Open<frmEn_KeyTrain_Advanced>();
         const auto look = [this] {
             QTest::qWait(20);
-            return m_drill->screen()->grabWindow(m_drill->winId()).toImage();
+            return m_window->screen()->grabWindow(m_window->winId()).toImage();
         };
         look();
         for (const QString &keys : {u"j"_s, u"fj"_s, u"qfx"_s, u"<<"_s}) {
             TypeKeys(keys);
             const QImage left = look();
             QVERIFY(!left.isNull());
-            m_drill->repaint();
+            m_window->repaint();
             Line("PromptRTB")->repaint();
             Line("InputRTB")->repaint();
             QVERIFY2(left == look(), qPrintable(keys));
@@ -112,7 +112,7 @@ private Q_SLOTS:
             QTest::mouseDClick(Part(box), Qt::LeftButton);
             QTest::mouseClick(Part(box), Qt::MiddleButton);
             QTest::mouseClick(Part(box), Qt::RightButton);
-            QVERIFY(m_drill->hasFocus() && !QApplication::activePopupWidget());
+            QVERIFY(m_window->hasFocus() && !QApplication::activePopupWidget());
         }
         QGuiApplication::clipboard()->setText(u"as"_s);
         Press(Qt::Key_V, Qt::ControlModifier);
@@ -230,7 +230,7 @@ private Q_SLOTS:
         PlatformServices().inputMethod = &wubi;
         Open<frmEn_KeyTrain_Advanced>();
         // No key of the switch arrives but the first.
-        QTest::keyPress(m_drill, Qt::Key_Control, Qt::ControlModifier);
+        QTest::keyPress(m_window, Qt::Key_Control, Qt::ControlModifier);
         wubi.name = u"Wubi"_s;
         Q_EMIT QGuiApplication::inputMethod()->localeChanged();
         QCOMPARE(Text("labPromptMsg"), u"The current input methodWubi"_s);

@@ -1,4 +1,4 @@
-#include "support/Damage.h"
+#include "platform/WriteFault.h"
 #include "support/Fakes.h"
 #include "support/SkinnedInstall.h"
 #include "ui/shell/DlgHelp.h"

@@ -92,7 +92,7 @@ private Q_SLOTS:
         QCOMPARE(Keys(), u"6"_s);
         Type(u"6"_s);
         Click("btnToStandardKB");
-        QTRY_VERIFY(m_drill.isNull());
+        QTRY_VERIFY(m_window.isNull());
         QCOMPARE(m_navigator->opened, QList<DrillKind>({DrillKind::KeyJunior}));
         QCOMPARE(Stored(u"NumPadTrain_Index"_s), u"2"_s);
         QVERIFY(
@@ -111,7 +111,7 @@ private:
               Qt::KeyboardModifiers modifiers)
     {
         QKeyEvent event(type, key, modifiers, scanCode, 0, 0, text);
-        QCoreApplication::sendEvent(m_drill, &event);
+        QCoreApplication::sendEvent(m_window, &event);
     }
 };
 

@@ -1,28 +1,21 @@
 #include "core/speedtest/PlacementWords.h"
-#include "support/Fakes.h"
-#include "support/SkinnedInstall.h"
+#include "support/WindowTest.h"
 #include "ui/drills/ArticleBox.h"
 #include "ui/speedtest/Frm_BeginTest.h"
 
-#include <QtTest>
-#include <QtWidgets>
-
 using namespace Qt::Literals::StringLiterals;
 
-class tst_PlacementTest : public QObject
+class tst_PlacementTest : public WindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_services.emplace();
-        m_install.emplace(u"Ann"_s);
-        m_navigator.emplace();
-        m_messages.emplace();
+        SetUp();
         PlatformServices().launcher = &m_launcher;
     }
-    void cleanup() { delete m_window; }
+    void cleanup() { TearDown(); }
 
     void CountsWords()
     {
@@ -36,7 +29,7 @@ private Q_SLOTS:
     void TypesAnEnglishText()
     {
         WriteText("English/T_Article/Adage/1.txt", "One, two.\r\n\r\nThree four\r\n");
-        Open(true);
+        Open();
         QCOMPARE(Box(0), u"One, two.\nThree four\n\n"_s);
         Type(u"One,"_s);
         Press(Qt::Key_Return); // a space is expected
@@ -46,15 +39,15 @@ private Q_SLOTS:
         QCOMPARE(Box(1), u"One, tz\n\n\n"_s);
 
         Press(Qt::Key_Pause);
-        QCOMPARE(Label("labPromptMsg"), u"Suspended by PAUSE/BREAK"_s);
+        QCOMPARE(Text("labPromptMsg"), u"Suspended by PAUSE/BREAK"_s);
         m_services->clock.Move(100);
         Type(u"x"_s);
         QCOMPARE(Box(1), u"One, tz\n\n\n"_s);
         Press(Qt::Key_Pause);
-        QCOMPARE(Label("labPromptMsg"), u"Input by the current key suggested"_s);
+        QCOMPARE(Text("labPromptMsg"), u"Input by the current key suggested"_s);
         Type(u"o. "_s); // Space is Enter at the line's end
         m_services->clock.Move(6);
-        QCOMPARE(Status(), u"0:00:06 40WPM 81% 66 %"_s);
+        QCOMPARE(Status().join(u' '), u"0:00:06 40WPM 81% 66 %"_s);
 
         // Twenty of the 22 were right; six words in ten seconds.
         AtResult(Qt::Key_Escape);
@@ -76,7 +69,7 @@ private Q_SLOTS:
                                                     std::tuple(3.0, QList<DrillKind>(), u"Missile.exe"_s)}) {
             m_navigator.emplace();
             m_launcher.asked.clear();
-            Open(true);
+            Open();
             Type(u"a b c d e f g h i j k l m n o p q r s t"_s);
             m_services->clock.Move(seconds);
             AtResult(Qt::Key_Return);
@@ -91,19 +84,20 @@ private Q_SLOTS:
     void BeginsAgain()
     {
         WriteText("English/Professional/Law/1.txt", "Law\r\n");
-        Open(true);
+        Open();
         Type(u"Laz"_s);
         AtResult({}, "XBtnAgain");
         Click("XBtn_Finish");
         QCOMPARE(Box(1), u"\n\n\n"_s);
-        QCOMPARE(Status(), u"0:00:01 0WPM 0% 0 %"_s);
+        QCOMPARE(Status().join(u' '), u"0:00:01 0WPM 0% 0 %"_s);
     }
 
     void SaysThatThereIsNoText()
     {
         WriteText("English/T_Article/Adage/1.txt", "\r\n \r\n");
-        m_window = new Frm_BeginTest(*m_navigator, &m_owner);
-        m_window->ShowTest(true);
+        auto *window = new Frm_BeginTest(*m_navigator, &m_owner);
+        m_window = window;
+        window->ShowTest(true);
         QTRY_VERIFY(m_window.isNull());
         QCOMPARE(m_messages->texts,
                  QStringList{u"There is no test data, data restoration, or re-installe Quorvex."_s});
@@ -115,17 +109,11 @@ private:
     {
         m_install->Write(u"Data/"_s + QLatin1StringView(path), text);
     }
-    void Open(bool english)
-    {
-        m_window = new Frm_BeginTest(*m_navigator, &m_owner);
-        m_window->ShowTest(english);
-        QVERIFY(QTest::qWaitForWindowActive(m_window));
-    }
+    void Open() { OpenBy<Frm_BeginTest>(&Frm_BeginTest::ShowTest, true); }
     /// At the next result dialog notes its figures, then presses a key or a button.
     void AtResult(std::optional<Qt::Key> key, const char *button = nullptr)
     {
-        QTimer::singleShot(0, this, [this, key, button] {
-            QWidget *dialog = QApplication::activeModalWidget();
+        InDialog([this, key, button](QWidget *dialog) {
             m_result = dialog->findChild<QLabel *>(u"LabResult"_s)->text() + u'|' +
                        dialog->findChild<QLabel *>(u"LabSuggestion"_s)->text();
             if (button)
@@ -134,35 +122,9 @@ private:
                 QTest::keyClick(dialog, *key);
         });
     }
-    void Type(const QString &text) { QTest::keyClicks(QApplication::focusWidget(), text); }
-    void Press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
-    void Click(const char *name)
-    {
-        QTest::mouseClick(m_window->findChild<QWidget *>(QLatin1StringView(name)), Qt::LeftButton);
-    }
-    QString Box(int index) const
-    {
-        return m_window->findChild<ArticleBox *>(u"RTB"_s + QString::number(index))->Text();
-    }
-    QString Label(const char *name) const
-    {
-        return m_window->findChild<QLabel *>(QLatin1StringView(name))->text();
-    }
-    QString Status() const
-    {
-        QMetaObject::invokeMethod(m_window->findChild<QTimer *>(u"Timer1"_s), "timeout");
-        return QStringList{Label("labTime"), Label("labSpeed"), Label("labVeracity"),
-                           m_window->findChild<QWidget *>(u"picProgress"_s)->toolTip()}
-            .join(u' ');
-    }
+    QString Box(int index) const { return Part<ArticleBox>(u"RTB%1"_s.arg(index))->Text(); }
 
-    std::optional<FakeServices> m_services;
-    std::optional<SkinnedInstall> m_install;
-    std::optional<FakeNavigator> m_navigator;
-    std::optional<FakeAnswers> m_messages;
     FakeLauncher m_launcher;
-    QWidget m_owner;
-    QPointer<Frm_BeginTest> m_window;
     QString m_result;
 };
 

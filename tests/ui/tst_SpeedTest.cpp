@@ -1,19 +1,23 @@
-#include "support/SpeedTestCase.h"
+#include "support/WindowTest.h"
+#include "ui/shell/ChooseFile.h"
 #include "ui/speedtest/frmFreeType.h"
 #include "ui/speedtest/frmTest.h"
-
-#include <QLineEdit>
-#include <QRadioButton>
+#include "ui/widgets/TypingBox.h"
+#include "ui/widgets/TypingLine.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-class tst_SpeedTest : public SpeedTestCase
+class tst_SpeedTest : public WindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init() { SetUp(); }
-    void cleanup() { TearDown(); }
+    void cleanup()
+    {
+        Public_Function::SetFileAnswerer({});
+        TearDown();
+    }
 
     void ShowsWhatIsTyped_data()
     {
@@ -64,23 +68,19 @@ private Q_SLOTS:
         QCOMPARE(m_services->sound.TakePlayed().mid(6),
                  QStringList({u"Type.WAV"_s, u"Type.WAV"_s, u"Type.WAV"_s, u"Error.wav"_s}));
         m_services->clock.Move(30);
-        Tick();
-        QCOMPARE(Text(u"labTime"_s), u"0:00:30"_s);
-        QCOMPARE(Text(u"labSpeed"_s), u"10WPM"_s);
-        QCOMPARE(Text(u"labVeracity"_s), u"80%"_s);
-        QCOMPARE(m_window->findChild<QWidget *>(u"picProgress"_s)->toolTip(), u"50 %"_s);
+        QCOMPARE(Status(), QStringList({u"0:00:30"_s, u"10WPM"_s, u"80%"_s, u"50 %"_s}));
         Type(u"fghi"_s);
         const QStringList result = ResultOf([this] { Type(u"j"_s); });
         QCOMPARE(result,
                  QStringList({u"Correct rate:  90"_s, u"Average speed: 20"_s, u"Backspace key: 0"_s}));
-        QCOMPARE(Records(), QStringList(u"20 90 Screen Text"_s));
+        QCOMPARE(Records("RecordEX.Dat"), QStringList(u"20 90 Screen Text"_s));
         QVERIFY(!IsRunning());
         Type(u"abc"_s); // the page stays, and nothing goes on
         QCOMPARE(Row(u"rtfInput1"_s), u"fghij/rrrrr"_s);
         QVERIFY(m_window->close());
         Type(u"a"_s); // on its way when the window closed
-        Compose({}, u"a"_s);
-        QCOMPARE(Records().size(), 1);
+        InputMethod({}, u"a"_s);
+        QCOMPARE(Records("RecordEX.Dat").size(), 1);
         QCOMPARE(m_navigator->menuShown, 1);
     }
 
@@ -120,7 +120,6 @@ private Q_SLOTS:
         if (rule == 2)
             Type(u"z"_s); // goes on, and is not judged
         QCOMPARE(ResultOf([&] { Press(goOn); }).size(), 3);
-        QCOMPARE(m_dialogsSeen, 1);
     }
 
     void TurnsPages()
@@ -147,22 +146,22 @@ private Q_SLOTS:
     {
         WriteText(u"你好𠀀é ab"_s);
         Open<frmTest>();
-        Compose(u"ni hao"_s, {});
+        InputMethod(u"ni hao"_s, {});
         QVERIFY(!IsRunning());
         QVERIFY(Box()->width() > 40); // shows what is composed
         const QRect cursor = Box()->inputMethodQuery(Qt::ImCursorRectangle).toRect();
         QCOMPARE(Box()->y() + cursor.bottom(), Line(u"rtfInput0"_s)->geometry().bottom());
-        Compose({}, u"你号"_s);
-        Compose({}, u"𠀀"_s);
-        Compose({}, u"é"_s); // a dead key
-        Compose({}, u"\u3000"_s);
+        InputMethod({}, u"你号"_s);
+        InputMethod({}, u"𠀀"_s);
+        InputMethod({}, u"é"_s); // a dead key
+        InputMethod({}, u"\u3000"_s);
         QCOMPARE(Row(u"rtfInput0"_s), u"你号𠀀é /rwrrr"_s);
 
         // Where the text stands behind the place to type at, what is composed is shown below it.
         Shared().TestDisplayMode[0] = 2;
         m_window->close();
         Open<frmTest>();
-        Compose(u"ni"_s, {});
+        InputMethod(u"ni"_s, {});
         QVERIFY(Box()->geometry().bottom() > Line(u"rtfSubject0"_s)->geometry().bottom() + 10);
     }
 
@@ -179,12 +178,11 @@ private Q_SLOTS:
         m_services->clock.Move(500); // does not count
         Type(u"c"_s);
         m_services->clock.Move(10);
-        Tick();
-        QCOMPARE(Text(u"labTime"_s), u"0:01:00"_s);
+        QCOMPARE(Status().at(0), u"0:01:00"_s);
         QVERIFY(IsRunning());
         m_services->clock.Move(0.5);
-        QCOMPARE(ResultOf([this] { Tick(); }).value(1), u"Average speed: 3"_s);
-        QCOMPARE(Records(), QStringList(u"3 100 Screen Text"_s));
+        QCOMPARE(ResultOf([this] { Status(); }).value(1), u"Average speed: 3"_s);
+        QCOMPARE(Records("RecordEX.Dat"), QStringList(u"3 100 Screen Text"_s));
     }
 
     void StoresWhatIsLeft_data()
@@ -211,7 +209,7 @@ private Q_SLOTS:
         m_services->clock.Move(10);
         const QString way = QString::fromLatin1(QTest::currentDataTag());
         Click(way);
-        QTEST(Records(), "records");
+        QTEST(Records("RecordEX.Dat"), "records");
         QTEST(m_navigator->tests, "tests");
         QTEST(m_navigator->menuShown, "menuShown");
         if (way == u"TestTab1"_s) {
@@ -233,7 +231,6 @@ private Q_SLOTS:
         Open<frmTest>();
         Type(u"abx"_s);
         Choose(u"BtnSetting"_s, {u"optComp2"_s, u"optNewLine1"_s});
-        QCOMPARE(m_dialogsSeen, 1);
         QCOMPARE(Row(u"rtfSubject0"_s), u"abx/rrw"_s);
         QCOMPARE(Row(u"rtfSubject1"_s), u"def/---/d"_s);
         QVERIFY(!Line(u"rtfInput0"_s));
@@ -246,12 +243,11 @@ private Q_SLOTS:
         }
         QCOMPARE(m_messages->texts, QStringList(2, u"You changed the setting, would you like to retest?"_s));
         QCOMPARE(Row(u"rtfSubject0"_s), u"abc/---/a"_s);
-        QVERIFY(Records().isEmpty());
+        QVERIFY(Records("RecordEX.Dat").isEmpty());
         m_window->close();
-        const SettingFile stored(Public_Function::SettingFilePath());
-        QCOMPARE(stored.Integer(u"Exam"_s, u"InComp"_s, -1), 2);
-        QCOMPARE(stored.Integer(u"Main"_s, u"NewLine"_s, -1), 1);
-        QCOMPARE(stored.Integer(u"Exam"_s, u"LimitTime"_s, -1), 25);
+        QCOMPARE(Stored(u"InComp"_s, u"Exam"_s), u"2"_s);
+        QCOMPARE(Stored(u"NewLine"_s, u"Main"_s), u"1"_s);
+        QCOMPARE(Stored(u"LimitTime"_s, u"Exam"_s), u"25"_s);
     }
 
     void TypesFromPaper()
@@ -263,10 +259,10 @@ private Q_SLOTS:
         Open<frmTest>();
         QCOMPARE(Text(u"labLessonMsg"_s), u"Speed Test/Printed Text"_s);
         QVERIFY(!Line(u"rtfSubject0"_s));
-        QVERIFY(!Button(u"BtnSave"_s)->isEnabled());
+        QVERIFY(!Part(u"BtnSave"_s)->isEnabled());
         Type(u"ax"_s);
         QCOMPARE(Row(u"rtfInput0"_s), u"ax/rw"_s);
-        QVERIFY(Button(u"BtnStop"_s)->isEnabled());
+        QVERIFY(Part(u"BtnStop"_s)->isEnabled());
         Public_Function::SetFileAnswerer(
             [](Public_Function::FilePurpose) { return Shared().InstallDir + u"typed.txt"_s; });
         Click(u"BtnSave"_s);
@@ -279,7 +275,7 @@ private Q_SLOTS:
         Click(u"BtnPause"_s);
         QVERIFY(!IsRunning());
         QCOMPARE(ResultOf([this] { Click(u"BtnStop"_s); }).value(0), u"Correct rate:  66"_s);
-        QVERIFY(!Button(u"BtnPause"_s)->isEnabled());
+        QVERIFY(!Part(u"BtnPause"_s)->isEnabled());
     }
 
     void TypesFreely()
@@ -302,7 +298,7 @@ private Q_SLOTS:
         const QString speed = QString::number(full - 1);
         QCOMPARE(ResultOf([this] { Click(u"BtnOver"_s); }).mid(0, 2),
                  QStringList({u"Correct rate:  0"_s, u"Average speed: "_s + speed}));
-        QCOMPARE(Records(), QStringList(speed + u" 100 Printed Text"_s));
+        QCOMPARE(Records("RecordEX.Dat"), QStringList(speed + u" 100 Printed Text"_s));
 
         Choose(u"BtnSelectLesson"_s, {u"OptFreeInput"_s});
         QCOMPARE(Row(u"rtfInput0"_s), u"/"_s);
@@ -344,7 +340,7 @@ private Q_SLOTS:
         Open<frmTest>();
         Type(u"ab"_s);
         Choose(u"BtnSetting"_s, {u"optOverType1"_s}, u"25"_s);
-        QCOMPARE(Records().size(), 1);
+        QCOMPARE(Records("RecordEX.Dat").size(), 1);
         QCOMPARE(Shared().OverType, 0);
     }
 
@@ -360,7 +356,7 @@ private Q_SLOTS:
         QVERIFY(!IsRunning());
         QVERIFY(Text(u"lblMsg"_s).contains(u"empty"_s));
         m_window->close();
-        QVERIFY(Records().isEmpty());
+        QVERIFY(Records("RecordEX.Dat").isEmpty());
         WriteText(u"abc"_s);
         Open<frmTest>();
         QVERIFY(QFile::remove(m_install->Native(u"Data/English/E_General/lunch.txt"_s)));
@@ -370,6 +366,39 @@ private Q_SLOTS:
     }
 
 private:
+    void WriteText(const QString &text)
+    {
+        m_install->Write(u"Data/English/E_General/lunch.txt"_s, text.toUtf8());
+    }
+    template <typename Window>
+    void Open()
+    {
+        OpenBy<Window>(&Window::ShowTest);
+        QCOMPARE(QApplication::focusWidget(), Box());
+    }
+    TypingBox *Box() const { return Part<TypingBox>("rtfCursor"); }
+    TypingLine *Line(const QString &name) const { return Part<TypingLine>(name); }
+    /// A row's text and how it looks, "-" untyped, "r" right, "w" wrong, and then the lit character.
+    QString Row(const QString &name) const
+    {
+        const TypingLine *line = Line(name);
+        QString shown = line->Text() + u'/';
+        for (int i = 0; i < line->Length(); ++i)
+            shown += u"-rw"[static_cast<int>(line->LookAt(i))];
+        return line->Mark() < 0 ? shown : shown + u'/' + line->Text().at(line->Mark());
+    }
+    /// Does what ends the test, and returns what the result dialog says.
+    QStringList ResultOf(const std::function<void()> &end)
+    {
+        m_result.clear();
+        InDialog([this](QWidget *dialog) {
+            for (const auto &label : {u"Label2"_s, u"Label3"_s, u"Label4"_s})
+                m_result += dialog->findChild<QLabel *>(label)->text();
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        });
+        end();
+        return m_result;
+    }
     /// Opens a dialog by its button, chooses options and types the minutes there, and confirms it.
     void Choose(const QString &button, const QStringList &options, const QString &minutes = {})
     {
@@ -382,6 +411,8 @@ private:
         });
         Click(button);
     }
+
+    QStringList m_result;
 };
 
 QTEST_MAIN(tst_SpeedTest)

@@ -93,11 +93,14 @@ struct Writer
 };
 
 enum class Aftermath {
-    Clean,     ///< no scratch file is left
-    Scratch,   ///< one may be left until the next save
-    NoProcess, ///< the same, and the process is gone
-    Overcome   ///< the save succeeds all the same
+    Clean,    ///< no scratch file is left
+    Overcome, ///< the save succeeds all the same
+    Scratch,  ///< one may be left until the next save
+    NoProcess ///< the same, and the process is gone
 };
+
+using enum Fault::Effect;
+using enum Aftermath;
 
 /// Something that goes wrong, in steps: `step` makes the next one of the fault.
 struct Trouble
@@ -108,90 +111,78 @@ struct Trouble
     void (*step)(Fault &next, int number) = [](Fault &next, int number) { next.first = number; };
 };
 
-const std::vector<Writer> &Writers()
-{
-    static const std::vector<Writer> writers{
-        {"text drill's record", Plain([] { StoreArticleResult(60, 90, u"new"_s); })},
-        {"speed test's record, mistakes and settings",
-         [] {
-             return WithoutAnswer([test = Typed<KTest>(u"X好好"_s)] {
-                 (*test)->SaveData(u"new"_s);
-                 test->reset();
-             });
-         }},
-        {"drill's mistakes", AddMistakes},
-        {"record deleted", OnPage<TrainingHistory>(
-                               [](TrainingHistory &page) { return page.Amount() == 0 || page.Delete({0}); })},
-        {"records cleared", OnPage<TrainingHistory>([](TrainingHistory &page) { return page.Clear(); })},
-        {"mistakes deleted",
-         OnPage<MistakeHistory>([](MistakeHistory &page) { return page.Delete({u"A"_s}); })},
-        {"key drill's place", Plain([] {
-             StoreKeyLessonPlace(MainKeyLessonSettings(), {u"\\l.txt"_s, 7, 2});
-         })},
-        {"word drill's place", Plain([] {
-             StoreWordTrainPlace({u"\\d\\"_s, u"GRE"_s, u"GRE"_s, 3, true, 2});
-         })},
-        {"text drill's place", Plain([] {
-             StoreArticlePlace({u"\\a.txt"_s, u"a"_s, 5, DisplayForm::InPlace, 2});
-         })},
-        {"sounds", Plain(Public_Function::SaveSoundSetting)},
-        {"placement question",
-         [] {
-             IUserRecord records;
-             records.SetCurrentUser(Shared().CurrentUserName);
-             return [records]() mutable { return records.SetIfBeginTest(false); };
-         }},
-        {"lesson of missed keys",
-         [] { return [] { return Public_Function::WriteFallibleKeyLesson(u"abc"_s); }; }},
-        {"typed text",
-         [] {
-             Shared().CurrentUserName.clear(); // or the engine would store settings when it is released
-             return [free = Typed<KFreeType>(u"new 好"_s)] {
-                 return (*free)->SaveInput(Shared().InstallDir + u"typed.txt"_s);
-             };
-         }},
-        {"user added", Plain([] {
+const std::vector<Writer> writers{
+    {"text drill's record", Plain([] { StoreArticleResult(60, 90, u"new"_s); })},
+    {"speed test's record, mistakes and settings",
+     [] {
+         return WithoutAnswer([test = Typed<KTest>(u"X好好"_s)] {
+             (*test)->SaveData(u"new"_s);
+             test->reset();
+         });
+     }},
+    {"drill's mistakes", AddMistakes},
+    {"record deleted",
+     OnPage<TrainingHistory>([](TrainingHistory &page) { return page.Amount() == 0 || page.Delete({0}); })},
+    {"records cleared", OnPage<TrainingHistory>([](TrainingHistory &page) { return page.Clear(); })},
+    {"mistakes deleted", OnPage<MistakeHistory>([](MistakeHistory &page) { return page.Delete({u"A"_s}); })},
+    {"key drill's place", Plain([] {
+         StoreKeyLessonPlace(MainKeyLessonSettings(), {u"\\l.txt"_s, 7, 2});
+     })},
+    {"word drill's place", Plain([] {
+         StoreWordTrainPlace({u"\\d\\"_s, u"GRE"_s, u"GRE"_s, 3, true, 2});
+     })},
+    {"text drill's place", Plain([] {
+         StoreArticlePlace({u"\\a.txt"_s, u"a"_s, 5, DisplayForm::InPlace, 2});
+     })},
+    {"sounds", Plain(Public_Function::SaveSoundSetting)},
+    {"placement question",
+     [] {
+         IUserRecord records;
+         records.SetCurrentUser(Shared().CurrentUserName);
+         return [records]() mutable { return records.SetIfBeginTest(false); };
+     }},
+    {"lesson of missed keys",
+     [] { return [] { return Public_Function::WriteFallibleKeyLesson(u"abc"_s); }; }},
+    {"typed text",
+     [] {
+         Shared().CurrentUserName.clear(); // or the engine would store settings when it is released
+         return [free = Typed<KFreeType>(u"new 好"_s)] {
+             return (*free)->SaveInput(Shared().InstallDir + u"typed.txt"_s);
+         };
+     }},
+    {"user added", Plain([] {
+         UserList users;
+         if (!users.UserExists(u"Bob"_s))
+             users.AddUser(u"Bob"_s);
+         users.MakeFolder(u"Bob"_s);
+     })},
+    {"user deleted",
+     [] {
+         return [] {
              UserList users;
-             if (!users.UserExists(u"Bob"_s))
-                 users.AddUser(u"Bob"_s);
-             users.MakeFolder(u"Bob"_s);
-         })},
-        {"user deleted",
-         [] {
-             return [] {
-                 UserList users;
-                 if (!users.UserExists(u"Anna"_s)) // what is left of one goes with the next of the name
-                     users.AddUser(u"Anna"_s);
-                 const UserList::Deletion deletion = users.DeleteUser(u"Anna"_s);
-                 return deletion.deleted && deletion.error.isEmpty();
-             };
-         },
-         u"user.ini"_s},
-    };
-    return writers;
-}
+             if (!users.UserExists(u"Anna"_s)) // what is left of one goes with the next of the name
+                 users.AddUser(u"Anna"_s);
+             const UserList::Deletion deletion = users.DeleteUser(u"Anna"_s);
+             return deletion.deleted && deletion.error.isEmpty();
+         };
+     },
+     u"user.ini"_s},
+};
 
-const std::vector<Trouble> &Troubles()
-{
-    using enum Fault::Effect;
-    using enum Aftermath;
-    const auto failing = [](int calls) { return Fault{.count = calls, .error = EIO}; };
-    static const std::vector<Trouble> troubles{
-        {"killed before a change", NoProcess, {.calls = Changes | Closes, .effect = KillBefore, .count = 1}},
-        {"killed after a change", NoProcess, {.calls = Changes | Closes, .effect = KillAfter, .count = 1}},
-        {"disk full after n bytes", Clean, {.count = 0}, [](Fault &next, int number) { next.room = number; }},
-        {"disk full from a call on", Clean, {.calls = TakesRoom, .error = ENOSPC}},
-        {"quota used up", Clean, {.calls = TakesRoom, .error = EDQUOT}},
-        {"read-only from a call on", Scratch, {.calls = Changes, .error = EROFS}},
-        {"access denied once", Scratch, {.count = 1, .error = EACCES}},
-        {"5 calls fail", Scratch, failing(5)},
-        {"20 calls fail", Scratch, failing(20)},
-        {"a signal comes", Overcome, {.calls = Interruptible, .count = 1, .error = EINTR}},
-        {"short writes", Overcome, {.count = 0}, [](Fault &next, int number) {
-             next.longestWrite = 1 << number;
-         }}};
-    return troubles;
-}
+const std::vector<Trouble> troubles{
+    {"killed before a change", NoProcess, {.calls = Changes | Closes, .effect = KillBefore, .count = 1}},
+    {"killed after a change", NoProcess, {.calls = Changes | Closes, .effect = KillAfter, .count = 1}},
+    {"disk full after n bytes", Clean, {.count = 0}, [](Fault &next, int number) { next.room = number; }},
+    {"disk full from a call on", Clean, {.calls = TakesRoom, .error = ENOSPC}},
+    {"quota used up", Clean, {.calls = TakesRoom, .error = EDQUOT}},
+    {"read-only from a call on", Scratch, {.calls = Changes, .error = EROFS}},
+    {"access denied once", Scratch, {.count = 1, .error = EACCES}},
+    {"5 calls fail", Scratch, {.count = 5, .error = EIO}},
+    {"20 calls fail", Scratch, {.count = 20, .error = EIO}},
+    {"a signal comes", Overcome, {.calls = Interruptible, .count = 1, .error = EINTR}},
+    {"short writes", Overcome, {.count = 0}, [](Fault &next, int number) {
+         next.longestWrite = 1 << number;
+     }}};
 
 } // namespace
 
@@ -234,19 +225,19 @@ private Q_SLOTS:
     void nothingIsLost_data()
     {
         QTest::addColumn<int>("number");
-        for (std::size_t i = 0; i < Writers().size(); ++i)
-            QTest::newRow(Writers()[i].name) << static_cast<int>(i);
+        for (const Writer &writer : writers)
+            QTest::newRow(writer.name) << static_cast<int>(&writer - writers.data());
     }
 
     void nothingIsLost()
     {
         QFETCH(const int, number);
-        const Writer &writer = Writers()[static_cast<std::size_t>(number)];
+        const Writer &writer = writers[static_cast<std::size_t>(number)];
         PlatformServices().random.seed(7);
         writer.prepare()();
         m_now = m_fresh = Snapshot();
         QVERIFY(m_fresh != m_old);
-        for (const Trouble &trouble : Troubles()) {
+        for (const Trouble &trouble : troubles) {
             bool met = true;
             for (int step = 0; met; ++step) {
                 Fault fault = trouble.fault;
@@ -264,7 +255,7 @@ private Q_SLOTS:
             const Save save = writer.prepare();
             const auto deleteAnna = [this] { QDir(m_install->Native(u"Users/Anna"_s)).removeRecursively(); };
             met = Run({.calls = Changes | Closes,
-                       .effect = Fault::Effect::Meanwhile,
+                       .effect = Meanwhile,
                        .first = step,
                        .count = 1,
                        .meanwhile = deleteAnna},
@@ -280,12 +271,10 @@ private:
         Restore();
         const Save save = writer.prepare();
         Answer answer;
-        met = trouble.aftermath == Aftermath::NoProcess ? RunApart(fault, save)
-                                                        : Run(fault, [&] { answer = save(); });
+        met = trouble.aftermath == NoProcess ? RunApart(fault, save) : Run(fault, [&] { answer = save(); });
         Content after = Snapshot();
         const QString left = TakeScratch(after);
-        if (!left.isEmpty() && trouble.aftermath != Aftermath::Scratch &&
-            trouble.aftermath != Aftermath::NoProcess)
+        if (!left.isEmpty() && trouble.aftermath < Scratch)
             return u"left "_s + left;
         for (const Content *const content : {&m_old, &m_fresh}) {
             for (auto path = content->keyBegin(); path != content->keyEnd(); ++path) {
@@ -297,7 +286,7 @@ private:
             return u"begun without "_s + writer.guard;
         if (answer && *answer != (after == m_fresh))
             return *answer ? u"said to be done"_s : u"said to have failed"_s;
-        if (trouble.aftermath == Aftermath::Overcome && after != m_fresh)
+        if (trouble.aftermath == Overcome && after != m_fresh)
             return u"given up"_s;
         const bool nothingDone = after == m_old;
         PlatformServices().random.seed(7);
@@ -311,13 +300,8 @@ private:
     Content Snapshot() const
     {
         Content content;
-        const QString folder = m_install->Native(QString()) + u'/';
-        QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                             QDirIterator::Subdirectories);
-        while (entries.hasNext()) {
-            const QString path = entries.next().sliced(folder.size());
-            content[path] = entries.fileInfo().isDir() ? QByteArray() : m_install->Read(path);
-        }
+        for (const QString &path : m_install->Tree())
+            content[path] = QFileInfo(m_install->Native(path)).isDir() ? QByteArray() : m_install->Read(path);
         return content;
     }
 

@@ -5,7 +5,6 @@ however it ends.
 """
 
 import ctypes
-import mmap
 import os
 import shutil
 import signal
@@ -124,31 +123,25 @@ class Desktop:
             raise RuntimeError(f"xdotool {arguments}: {done.stderr}")
         return done.stdout.strip()
 
-    def picture(self):
-        """The screen as it is now: width, height, and rows of blue, green, red and an unused byte a pixel."""
-        with open(os.path.join(self.folder, "Xvfb_screen0"), "rb") as file, \
-                mmap.mmap(file.fileno(), 0, access=mmap.ACCESS_READ) as memory:
-            header = struct.unpack(">25I", memory[:100])
-            start, stride = header[0] + header[19] * 12, header[12]
-            width, height = header[4], header[5]
-            data = memory[start:start + stride * height]
-        return width, height, [data[y * stride:y * stride + width * 4] for y in range(height)]
-
     def screenshot(self, path):
         """Writes the screen as a PNG file."""
-        width, height, rows = self.picture()
-        lines = []
-        for row in rows:
+        # The display keeps a header and rows of blue, green, red and an unused byte a pixel.
+        with open(os.path.join(self.folder, "Xvfb_screen0"), "rb") as file:
+            data = file.read()
+        header = struct.unpack(">25I", data[:100])
+        start, stride, width, height = header[0] + header[19] * 12, header[12], header[4], header[5]
+        lines = bytearray()
+        for at in range(start, start + stride * height, stride):
             line = bytearray(width * 3)
-            line[0::3], line[1::3], line[2::3] = row[2::4], row[1::4], row[0::4]
-            lines.append(b"\0" + bytes(line))
+            line[0::3], line[1::3], line[2::3] = (data[at + part:at + width * 4:4] for part in (2, 1, 0))
+            lines += b"\0" + line
 
         def chunk(kind, data):
             return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
 
         with open(path, "wb") as file:
             file.write(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">2I5B", width, height, 8, 2, 0, 0, 0))
-                       + chunk(b"IDAT", zlib.compress(b"".join(lines), 6)) + chunk(b"IEND", b""))
+                       + chunk(b"IDAT", zlib.compress(lines, 6)) + chunk(b"IEND", b""))
 
     def close(self):
         for process in reversed(self.processes):

@@ -32,11 +32,11 @@ class Stage:
     keep = False
 
     @classmethod
-    def set_up(cls, build, keep, size):
+    def set_up(cls, build, keep):
         cls.keep = keep
         cls.evidence = os.path.join(build, "e2e")
         os.makedirs(cls.evidence, exist_ok=True)
-        cls.desktop = Desktop(*size)
+        cls.desktop = Desktop()
         # What people get, not what lies in the build folder: somebody may have used the program there.
         cls.shipped = os.path.join(cls.desktop.folder, "shipped")
         subprocess.run(["cmake", "--install", build, "--prefix", cls.shipped], check=True, stdout=subprocess.DEVNULL)
@@ -91,7 +91,6 @@ def main():
     arguments = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawTextHelpFormatter)
     arguments.add_argument("--build", default=os.path.join(HERE, "../../build/release"))
     arguments.add_argument("--keep", action="store_true")
-    arguments.add_argument("--size", default="1024x768")
     arguments.add_argument("--input-method", choices=["ibus", "fcitx"], default="ibus", help="for Chinese text")
     arguments.add_argument("names", nargs="*", help="journey files, or journey_file.Class.test_method")
     given = arguments.parse_args()
@@ -102,7 +101,7 @@ def main():
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
     sys.modules.setdefault("journey", sys.modules["__main__"])
     try:
-        Stage.set_up(os.path.abspath(given.build), given.keep, [int(part) for part in given.size.split("x")])
+        Stage.set_up(os.path.abspath(given.build), given.keep)
         suite = unittest.defaultTestLoader.loadTestsFromNames(names)
         result = unittest.TextTestRunner(verbosity=2, resultclass=Result).run(suite)
     finally:

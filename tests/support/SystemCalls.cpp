@@ -51,11 +51,10 @@ auto Do(unsigned deed, const Call &call)
             return Result(nullptr);
         else
             return Result(-1);
-    case Fault::Effect::KillBefore:
-        kill(getpid(), SIGKILL);
-        break;
     case Fault::Effect::KillAfter:
         call();
+        [[fallthrough]];
+    case Fault::Effect::KillBefore:
         kill(getpid(), SIGKILL);
         break;
     case Fault::Effect::Meanwhile:

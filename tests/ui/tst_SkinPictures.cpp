@@ -16,47 +16,40 @@ private Q_SLOTS:
     void EveryPictureIsThereAtBothScales()
     {
         // The size of a frame where a layout depends on it, the number of frames, and which pictures are so.
-        CheckPictures({}, 1,
-                      "MAIN_BG MAIN_BACK DIALOG_TITLE EDGE_LEFT EDGE_RIGHT EDGE_BOTTOM EDGE_LEFTDOWN "
-                      "EDGE_RIGHTDOWN Ur_histogram");
-        CheckPictures(
-            {}, 4,
-            "DLG_BTN_CLOSE BTN_UR_RETEST BTN_UR_RECORDDELSEL BTN_UR_CREATELESSON BTN_UR_CreateLesson_big");
-        CheckPictures({220, 44}, 4,
-                      "BTN_YINGWEN BTN_CESHI BTN_JIAOCHENG BTN_YOUXI_MISSILE BTN_YOUXI_RABBIT BTN_GERENJILU "
-                      "BTN_TUICHUDENGLU");
-        CheckPictures({40, 26}, 4, "BTN_CLOSE BTN_MIN BTN_HELP");
-        CheckPictures({90, 30}, 4,
-                      "BTN_OK BTN_CANCEL BTN_YES BTN_NO BTN_LOGIN BTN_ACCEPT BTN_AGAIN BTN_HOME");
-        CheckPictures({90, 30}, 5, "BTN_DELETE");
-        CheckPictures({112, 32}, 4,
-                      "BTN_SELECTLESSON BTN_KEYBOARD_NUMBER BTN_OPERATION BTN_PAUSE BTN_SAVE BTN_FINISHTEST "
-                      "BTN_FINISH BTN_SCORE");
-        CheckPictures({122, 32}, 4, "BTN_KEYBOARD_STAND BTN_BACK");
-        CheckPictures({22, 22}, 1, "ICON_TIME ICON_SPEED ICON_SCHEDULE ICON_VERACITY");
-        CheckPictures({140, 16}, 1, "PROGRESSBAR_BLUE PROGRESSBAR_GREEN");
-        CheckPictures({994, 40}, 1,
-                      "EN_LABEL_KEY_B EN_LABEL_KEY_E EN_LABEL_WORD EN_LABEL_ARTICLE TEST_LABEL_NEIBU "
-                      "TEST_LABEL_WAIBU TEST_LABEL_TINGDA");
-        CheckPictures(
-            {994, 664}, 1,
-            "EN_KEY_BACK_B EN_KEY_BACK_E EN_WORD_BACK TEST_DANHANG_BACK TEST_DUIZHAO_BACK TEST_FUGAI_BACK");
-        CheckPictures({590, 290}, 1, "HIGHSCORE_BACK");
-        CheckPictures({560, 372}, 1,
-                      "UR_ZONGHE_BACK UR_MISTAKEJIANWEI_BACK UR_MISTAKEHANZI_BACK UR_ENGLISH_BACK "
-                      "UR_pinyin_BACK UR_WuBi_BACK UR_Exam_BACK");
-        CheckPictures({150, 38}, 4,
-                      "BTN_UR_ZONGHE BTN_UR_MISTAKEJIANWEI BTN_UR_MISTAKEHANZI BTN_UR_ENGLISH BTN_UR_PINYIN "
-                      "BTN_UR_WUBI BTN_UR_EXAM");
-        CheckPictures({92, 30}, 4,
-                      "BTN_UR_PAGEUP BTN_UR_PAGEDOWN BTN_UR_RECORDDEL BTN_UR_SELECTALL BTN_UR_SELECTNONE "
-                      "BTN_UR_RECORDCLEARALL");
-        CheckPictures({525, 162}, 1, "HAND_CLEAR HAND_ON");
-        CheckPictures({64, 60}, 1, "ICON_KEY_ON ICON_KEY_NORMAL");
-        CheckPictures({896, 276}, 1, "KEYBOARD_NORMAL KEYBOARD_PROMPT KEYBOARD_PRESSED");
-        CheckPictures({704, 217}, 1, "KEYBOARD_NORMAL_SMALL KEYBOARD_PROMPT_SMALL KEYBOARD_PRESSED_SMALL");
-        CheckPictures({240, 276}, 1, "KEYPAD_NORMAL KEYPAD_PROMPT KEYPAD_PRESSED");
-        CheckPictures({186, 216}, 1, "KEYPAD_NORMAL_SMALL KEYPAD_PROMPT_SMALL KEYPAD_PRESSED_SMALL");
+        const QByteArray table = R"(
+0 0 1 MAIN_BG MAIN_BACK DIALOG_TITLE EDGE_LEFT EDGE_RIGHT EDGE_BOTTOM EDGE_LEFTDOWN EDGE_RIGHTDOWN
+0 0 1 Ur_histogram
+0 0 4 DLG_BTN_CLOSE BTN_UR_RETEST BTN_UR_RECORDDELSEL BTN_UR_CREATELESSON BTN_UR_CreateLesson_big
+220 44 4 BTN_YINGWEN BTN_CESHI BTN_JIAOCHENG BTN_YOUXI_MISSILE BTN_YOUXI_RABBIT BTN_GERENJILU
+220 44 4 BTN_TUICHUDENGLU
+40 26 4 BTN_CLOSE BTN_MIN BTN_HELP
+90 30 4 BTN_OK BTN_CANCEL BTN_YES BTN_NO BTN_LOGIN BTN_ACCEPT BTN_AGAIN BTN_HOME
+90 30 5 BTN_DELETE
+112 32 4 BTN_SELECTLESSON BTN_KEYBOARD_NUMBER BTN_OPERATION BTN_PAUSE BTN_SAVE BTN_FINISHTEST BTN_FINISH
+112 32 4 BTN_SCORE
+122 32 4 BTN_KEYBOARD_STAND BTN_BACK
+22 22 1 ICON_TIME ICON_SPEED ICON_SCHEDULE ICON_VERACITY
+140 16 1 PROGRESSBAR_BLUE PROGRESSBAR_GREEN
+994 40 1 EN_LABEL_KEY_B EN_LABEL_KEY_E EN_LABEL_WORD EN_LABEL_ARTICLE TEST_LABEL_NEIBU TEST_LABEL_WAIBU
+994 40 1 TEST_LABEL_TINGDA
+994 664 1 EN_KEY_BACK_B EN_KEY_BACK_E EN_WORD_BACK TEST_DANHANG_BACK TEST_DUIZHAO_BACK TEST_FUGAI_BACK
+590 290 1 HIGHSCORE_BACK
+560 372 1 UR_ZONGHE_BACK UR_MISTAKEJIANWEI_BACK UR_MISTAKEHANZI_BACK UR_ENGLISH_BACK UR_pinyin_BACK
+560 372 1 UR_WuBi_BACK UR_Exam_BACK
+150 38 4 BTN_UR_ZONGHE BTN_UR_MISTAKEJIANWEI BTN_UR_MISTAKEHANZI BTN_UR_ENGLISH BTN_UR_PINYIN BTN_UR_WUBI
+150 38 4 BTN_UR_EXAM
+92 30 4 BTN_UR_PAGEUP BTN_UR_PAGEDOWN BTN_UR_RECORDDEL BTN_UR_SELECTALL BTN_UR_SELECTNONE
+92 30 4 BTN_UR_RECORDCLEARALL
+525 162 1 HAND_CLEAR HAND_ON
+64 60 1 ICON_KEY_ON ICON_KEY_NORMAL
+896 276 1 KEYBOARD_NORMAL KEYBOARD_PROMPT KEYBOARD_PRESSED
+704 217 1 KEYBOARD_NORMAL_SMALL KEYBOARD_PROMPT_SMALL KEYBOARD_PRESSED_SMALL
+240 276 1 KEYPAD_NORMAL KEYPAD_PROMPT KEYPAD_PRESSED
+186 216 1 KEYPAD_NORMAL_SMALL KEYPAD_PROMPT_SMALL KEYPAD_PRESSED_SMALL)";
+        for (const QByteArray &row : table.trimmed().split('\n')) {
+            const QList<QByteArray> parts = row.split(' ');
+            CheckPictures({parts[0].toInt(), parts[1].toInt()}, parts[2].toInt(), parts.sliced(3));
+        }
     }
 
     void TabsAreDrawnAsTheirHotPolygons()
@@ -112,9 +105,9 @@ private Q_SLOTS:
     }
 
 private:
-    void CheckPictures(const QSize &size, int frames, const QByteArray &names) const
+    void CheckPictures(const QSize &size, int frames, const QList<QByteArray> &names) const
     {
-        for (const QByteArray &name : names.split(' ')) {
+        for (const QByteArray &name : names) {
             const QImage single = Load(QString::fromLatin1(name), 1);
             const QImage twice = Load(QString::fromLatin1(name), 2);
             QVERIFY2(!single.isNull(), name);

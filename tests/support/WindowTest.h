@@ -5,6 +5,7 @@
 #include "core/shell/UserSettings.h"
 #include "support/Fakes.h"
 #include "support/SkinnedInstall.h"
+#include "ui/widgets/TypingLine.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -87,6 +88,16 @@ protected:
         return m_window->findChild<Control *>(name.toString());
     }
     QString Text(QAnyStringView label) const { return Part<QLabel>(label)->text(); }
+    TypingLine *Line(QAnyStringView name) const { return Part<TypingLine>(name); }
+    /// A row's text and how it looks, "-" untyped, "r" right, "w" wrong, and then the lit character.
+    QString Row(QAnyStringView name) const
+    {
+        const TypingLine *line = Line(name);
+        QString shown = line->Text() + u'/';
+        for (int i = 0; i < line->Length(); ++i)
+            shown += QStringLiteral("-rw")[static_cast<int>(line->LookAt(i))];
+        return line->Mark() < 0 ? shown : shown + u'/' + line->Text().at(line->Mark());
+    }
     QTimer *Ticks() const { return m_window->findChild<QTimer *>(); }
     bool IsRunning() const { return Ticks()->isActive(); }
     QStringList Status() const

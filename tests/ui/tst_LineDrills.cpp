@@ -4,7 +4,6 @@
 #include "support/KeyDrillTest.h"
 #include "ui/drills/frmEn_KeyTrain_Advanced.h"
 #include "ui/drills/frmEn_WordTrain.h"
-#include "ui/widgets/TypingLine.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,21 +23,21 @@ private Q_SLOTS:
     void JudgesWhatIsTyped_data()
     {
         QTest::addColumn<QString>("typed");  // < Backspace, $ Enter, ^ Escape, | Pause
-        QTest::addColumn<QString>("prompt"); // + right, - wrong, [] the mark
+        QTest::addColumn<QString>("prompt"); // how it looks, and what is marked
         QTest::addColumn<QString>("input");
         QTest::addColumn<QString>("status");
         QTest::addColumn<QString>("mistakes");
         const auto row = [](const char *title, const QString &typed, const QString &prompt,
                             const QString &input, const QString &status, const QString &mistakes) {
-            QTest::newRow(title) << typed << prompt + u' ' << input << status << mistakes;
+            QTest::newRow(title) << typed << u"aB 1! /"_s + prompt << input << status << mistakes;
         };
-        row("nothing", {}, u"[a]B 1!"_s, {}, u"0KPM 0% 0 %"_s, {});
-        row("the other case", u"Ab"_s, u"--[ ]1!"_s, u"Ab"_s, u"0WPM 0% 0 %"_s, u"01004201000100410100"_s);
-        row("a wrong space", u"aBx1"_s, u"++-+[!]"_s, u"aBx1"_s, u"60WPM 75% 50 %"_s, {});
-        row("a space too early", u"a "_s, u"+-[ ]1!"_s, u"a "_s, u"0WPM 50% 0 %"_s, u"0100420100"_s);
-        row("taken back", u"ax<B<<"_s, u"[a]B 1!"_s, {}, u"0WPM 66% 0 %"_s, u"0100420100"_s);
-        row("Enter and Escape", u"$a^$"_s, u"+[B] 1!"_s, u"a"_s, u"0WPM 100% 0 %"_s, {});
-        row("paused", u"a|B"_s, u"++[ ]1!"_s, u"aB"_s, u"0WPM 100% 0 %"_s, {});
+        row("nothing", {}, u"------/a"_s, {}, u"0KPM 0% 0 %"_s, {});
+        row("the other case", u"Ab"_s, u"ww----/ "_s, u"Ab"_s, u"0WPM 0% 0 %"_s, u"01004201000100410100"_s);
+        row("a wrong space", u"aBx1"_s, u"rrwr--/!"_s, u"aBx1"_s, u"60WPM 75% 50 %"_s, {});
+        row("a space too early", u"a "_s, u"rw----/ "_s, u"a "_s, u"0WPM 50% 0 %"_s, u"0100420100"_s);
+        row("taken back", u"ax<B<<"_s, u"------/a"_s, {}, u"0WPM 66% 0 %"_s, u"0100420100"_s);
+        row("Enter and Escape", u"$a^$"_s, u"r-----/B"_s, u"a"_s, u"0WPM 100% 0 %"_s, {});
+        row("paused", u"a|B"_s, u"rr----/ "_s, u"aB"_s, u"0WPM 100% 0 %"_s, {});
     }
 
     void JudgesWhatIsTyped()
@@ -49,7 +48,7 @@ private Q_SLOTS:
         QCOMPARE(Text("labLessonMsg"), u"Title"_s);
         TypeKeys(typed);
         m_services->clock.Move(1);
-        QTEST(Looks("PromptRTB"), "prompt");
+        QTEST(Row("PromptRTB"), "prompt");
         QTEST(Line("InputRTB")->Text(), "input");
         QCOMPARE(Line("InputRTB")->Text().size(), Line("InputRTB")->Length());
         const QStringList status = IsRunning() ? Status() : Shown();
@@ -123,7 +122,7 @@ private Q_SLOTS:
         InputMethod({}, u"你"_s);
         QCOMPARE(Line("InputRTB")->Text(), QString());
         InputMethod({}, u"a𝒳"_s); // committed without a composition
-        QCOMPARE(Looks("PromptRTB"), u"+-[ ]Df 1! x "_s);
+        QCOMPARE(Row("PromptRTB"), u"as Df 1! x /rw---------/ "_s);
         QCOMPARE(Line("InputRTB")->Text(), u"a𝒳"_s);
         QCOMPARE(Keyboard(), u"Next key: Space, thumb"_s);
     }
@@ -189,7 +188,7 @@ private Q_SLOTS:
         Store(u"WordTrain_Index"_s, u"5"_s);
         Store(u"WordTrain_ShowExplanation"_s, u"1"_s);
         Open<frmEn_WordTrain>();
-        QCOMPARE(Looks("PromptRTB"), u"[a]rt sky "_s);
+        QCOMPARE(Row("PromptRTB"), u"art sky /--------/a"_s);
         QVERIFY(State("picExplanation").startsWith(u"art"_s));
         Type(u"art "_s);
         m_services->clock.Move(60);
@@ -206,9 +205,9 @@ private Q_SLOTS:
         QCOMPARE(m_messages->texts,
                  QStringList(u"Thesaurus data initialization failure\nPlease choose other file."_s));
         Type(u"s"_s);
-        QCOMPARE(Looks("PromptRTB"), u"+++++[k]y "_s);
+        QCOMPARE(Row("PromptRTB"), u"art sky /rrrrr---/k"_s);
         ChooseDictionary(2);
-        QCOMPARE(Looks("PromptRTB"), u"[n]ew words "_s);
+        QCOMPARE(Row("PromptRTB"), u"new words /----------/n"_s);
         QCOMPARE(Text("labLessonMsg"), u"Typing Course \\ Word Drill -- Familiar word"_s);
         QCOMPARE(State("picExplanation"), QString());
         QVERIFY(!IsRunning());
@@ -261,20 +260,6 @@ private:
             else
                 Type(QString(key));
         }
-    }
-    TypingLine *Line(const char *name) const { return static_cast<TypingLine *>(Part(name)); }
-    QString Looks(const char *name) const
-    {
-        QString looks;
-        const std::u32string text = Line(name)->Text().toStdU32String();
-        for (int at = 0; at < Line(name)->Length(); ++at) {
-            const TypingLine::Look look = Line(name)->LookAt(at);
-            QString shown = QString::fromUcs4(&text[static_cast<std::size_t>(at)], 1);
-            if (look != TypingLine::Look::Untyped)
-                shown = look == TypingLine::Look::Right ? u"+"_s : u"-"_s;
-            looks += at == Line(name)->Mark() ? u'[' + shown + u']' : shown;
-        }
-        return looks;
     }
     /// Switches the sounds off too.
     void ChooseSettings(bool explain)

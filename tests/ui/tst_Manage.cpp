@@ -1,32 +1,19 @@
-#include "core/records/RecordFile.h"
 #include "support/Dialogs.h"
-#include "support/Fakes.h"
-#include "support/SkinnedInstall.h"
+#include "support/WindowTest.h"
 #include "ui/records/FrmUr_Manage.h"
 #include "ui/widgets/MarkBox.h"
-#include "ui/widgets/SkinButton.h"
 
-#include <QLabel>
-#include <QTest>
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
-class TestManage : public QObject
+class TestManage : public WindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_install.emplace(u"Ann"_s);
-        m_answers.emplace();
-    }
-    void cleanup()
-    {
-        m_window.reset();
-        m_answers.reset();
-    }
+    void init() { SetUp(); }
+    void cleanup() { TearDown(); }
 
     void TheOverviewSumsUp()
     {
@@ -44,7 +31,7 @@ private Q_SLOTS:
             Open();
             QStringList figures;
             for (const QString &label : {u"labHighest"_s, u"labAverage"_s, u"labRate"_s, u"labModule"_s})
-                figures += Find<QLabel>(label)->text().section(u':', 1).remove(u" words per minute"_s);
+                figures += Text(label).section(u':', 1).remove(u" words per minute"_s);
             QCOMPARE(figures.join(u' '), shown);
         }
     }
@@ -78,22 +65,21 @@ private Q_SLOTS:
             Click(u"XBtn_PageDown_"_s + group);
         for (const int row : rows)
             QTest::mouseClick(Box(button, row), Qt::LeftButton, {}, QPoint(200, 10));
-        m_answers->answer = Public_Function::MessageNo;
+        m_messages->answer = Public_Function::MessageNo;
         Click(u"XBtn_RecordDelSel_"_s + group);
         Click(u"XBtn_RecordClearAll_"_s + group);
-        QCOMPARE(m_answers->texts.size(), 2);
+        QCOMPARE(m_messages->texts.size(), 2);
         QCOMPARE(m_install->Read(file), before);
-        m_answers->answer = Public_Function::MessageYes;
+        m_messages->answer = Public_Function::MessageYes;
         Click(u"XBtn_RecordDelSel_"_s + group);
         QStringList left;
         for (const TrainingRecord &record : RecordFile::DecodeTraining(m_install->Read(file)))
             left += QString::number(record.Speed);
         QTEST(left.join(u' '), "left");
         QCOMPARE(m_install->Read(file).isNull(), left.isEmpty());
-        QTEST(Find<QLabel>(u"labPage_"_s + group)->text() + u": "_s + QString::number(Shown(button)),
-              "page after");
-        QVERIFY(!Find<SkinButton>(u"XBtn_RecordDelSel_"_s + group)->isEnabled());
-        QCOMPARE(Find<QWidget>(u"Chart"_s + group)->isVisible(), left.size() > 1);
+        QTEST(Text(u"labPage_"_s + group) + u": "_s + QString::number(ShownRows(button)), "page after");
+        QVERIFY(!Part(u"XBtn_RecordDelSel_"_s + group)->isEnabled());
+        QCOMPARE(Part(u"Chart"_s + group)->isVisible(), left.size() > 1);
     }
 
     void PagesByKeysAndClearsAll()
@@ -101,28 +87,28 @@ private Q_SLOTS:
         m_install->Write(u"Users/Ann/RecordEN.Dat"_s, Days(Numbers(11)));
         Open();
         for (int i = 0; i < 3; ++i)
-            QTest::keyClick(m_window->focusWidget(), Qt::Key_Down);
-        QVERIFY(Find<QWidget>(u"Pic_English"_s)->isVisible() && !Find<QWidget>(u"Pic_Zonghe"_s)->isVisible());
-        QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
-        QCOMPARE(m_window->focusWidget(), Box(u"ChkEnglish"_s, 0));
+            Press(Qt::Key_Down);
+        QVERIFY(Part(u"Pic_English"_s)->isVisible() && !Part(u"Pic_Zonghe"_s)->isVisible());
+        Press(Qt::Key_Tab);
+        QCOMPARE(Focus(), Box(u"ChkEnglish"_s, 0));
         QVERIFY(
             Box(u"ChkEnglish"_s, 0)->accessibleName().startsWith(u"1 speed:1  correct rate:90% A day "_s));
-        QTest::keyClick(m_window->focusWidget(), Qt::Key_End);
+        Press(Qt::Key_End);
         for (int i = 0; i < 5; ++i) // further than there are pages
-            QTest::keyClick(m_window->focusWidget(), Qt::Key_PageDown);
+            Press(Qt::Key_PageDown);
         QVERIFY(Box(u"ChkEnglish"_s, 0)->accessibleName().startsWith(u"11 speed:11 "_s));
-        QCOMPARE(m_window->focusWidget(), Box(u"ChkEnglish"_s, 0));
-        QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
-        QCOMPARE(m_window->focusWidget()->objectName(), u"XBtn_PageUp_English"_s);
+        QCOMPARE(Focus(), Box(u"ChkEnglish"_s, 0));
+        Press(Qt::Key_Tab);
+        QCOMPARE(Focus()->objectName(), u"XBtn_PageUp_English"_s);
         for (int i = 0; i < 2; ++i)
-            QTest::keyClick(m_window->focusWidget(), Qt::Key_Space);
+            Press(Qt::Key_Space);
         // A button that has done all it could passes the focus on.
-        QCOMPARE(m_window->focusWidget()->objectName(), u"XBtn_PageDown_English"_s);
+        QCOMPARE(Focus()->objectName(), u"XBtn_PageDown_English"_s);
         Click(u"XBtn_RecordClearAll_English"_s);
         QVERIFY(m_install->Read(u"Users/Ann/RecordEN.Dat"_s).isNull());
-        QCOMPARE(m_window->focusWidget()->objectName(), u"XBtn_English"_s);
+        QCOMPARE(Focus()->objectName(), u"XBtn_English"_s);
         Click(u"XBtn_Zonghe"_s);
-        QCOMPARE(Find<QLabel>(u"labHighest"_s)->text(), u"The Highest Record:0 words per minute"_s);
+        QCOMPARE(Text(u"labHighest"_s), u"The Highest Record:0 words per minute"_s);
     }
 
     void DeletesMistakes()
@@ -139,32 +125,32 @@ private Q_SLOTS:
         m_install->Write(u"Users/Ann/MistakeCN.Dat"_s, RecordFile::Encode(characters));
         Open();
         Click(u"XBtn_Jianwei"_s);
-        QCOMPARE(Shown(u"ChkJianwei"_s), 10);
+        QCOMPARE(ShownRows(u"ChkJianwei"_s), 10);
         QTest::mouseClick(Box(u"ChkJianwei"_s, 2), Qt::LeftButton);
-        m_answers->answer = Public_Function::MessageNo;
+        m_messages->answer = Public_Function::MessageNo;
         QTest::keyClick(Box(u"ChkJianwei"_s, 2), Qt::Key_Delete);
         QCOMPARE(m_install->Read(u"Users/Ann/MistakeEN.Dat"_s), english);
-        m_answers->answer = Public_Function::MessageYes;
+        m_messages->answer = Public_Function::MessageYes;
         QTest::keyClick(Box(u"ChkJianwei"_s, 2), Qt::Key_Delete);
-        QCOMPARE(m_answers->texts.size(), 2);
+        QCOMPARE(m_messages->texts.size(), 2);
         keys.erase(keys.begin() + 2);
         QCOMPARE(m_install->Read(u"Users/Ann/MistakeEN.Dat"_s), RecordFile::Encode(keys));
         QCOMPARE(Box(u"ChkJianwei"_s, 2)->accessibleName(), u"D, mistyped 9 times"_s);
 
         Click(u"XBtn_Hanzi"_s);
-        QCOMPARE(Find<QLabel>(u"labAmount"_s)->text(), u"Wrong Word:60"_s);
-        QCOMPARE(Shown(u"ChkHanzi"_s), 50);
+        QCOMPARE(Text(u"labAmount"_s), u"Wrong Word:60"_s);
+        QCOMPARE(ShownRows(u"ChkHanzi"_s), 50);
         QTest::mouseClick(Box(u"ChkHanzi"_s, 0), Qt::LeftButton);
-        QTest::keyClick(m_window->focusWidget(), Qt::Key_Down);
-        QCOMPARE(m_window->focusWidget(), Box(u"ChkHanzi"_s, 10));
+        Press(Qt::Key_Down);
+        QCOMPARE(Focus(), Box(u"ChkHanzi"_s, 10));
         Click(u"XBtn_SelectAll"_s);
         QTest::keyClick(Box(u"ChkHanzi"_s, 10), Qt::Key_Space); // all but this one
         Click(u"XBtn_RecordDel_Hanzi"_s);
-        QCOMPARE(m_answers->texts.size(), 2); // nothing is asked here
+        QCOMPARE(m_messages->texts.size(), 2); // nothing is asked here
         characters.erase(characters.begin() + 11, characters.begin() + 50);
         characters.erase(characters.begin(), characters.begin() + 10);
         QCOMPARE(m_install->Read(u"Users/Ann/MistakeCN.Dat"_s), RecordFile::Encode(characters));
-        QCOMPARE(Shown(u"ChkHanzi"_s), 11);
+        QCOMPARE(ShownRows(u"ChkHanzi"_s), 11);
     }
 
     // A folder in the place of the scratch file stands for a medium that cannot be written.
@@ -179,17 +165,17 @@ private Q_SLOTS:
         Click(u"XBtn_English"_s);
         QTest::mouseClick(Box(u"ChkEnglish"_s, 1), Qt::LeftButton);
         Click(u"XBtn_RecordDelSel_English"_s);
-        QCOMPARE(m_answers->texts.size(), 2); // the question, and what went wrong
-        QVERIFY(m_answers->texts[1].contains(m_install->Native(u"Users/Ann"_s)));
-        QCOMPARE(Shown(u"ChkEnglish"_s), 3);
+        QCOMPARE(m_messages->texts.size(), 2); // the question, and what went wrong
+        QVERIFY(m_messages->texts[1].contains(m_install->Native(u"Users/Ann"_s)));
+        QCOMPARE(ShownRows(u"ChkEnglish"_s), 3);
         QCOMPARE(m_install->Read(u"Users/Ann/RecordEN.Dat"_s), before);
-        auto *always = Find<QAbstractButton>(u"Chk_AlwaysTest"_s);
+        auto *always = Part<QAbstractButton>(u"Chk_AlwaysTest"_s);
         QVERIFY(always->isChecked());
         QTest::keyClick(always, Qt::Key_Space);
         QVERIFY(always->isChecked());
-        QCOMPARE(m_answers->texts.size(), 3);
+        QCOMPARE(m_messages->texts.size(), 3);
         Click(u"XBtn_Pinyin"_s);
-        QVERIFY(Find<QWidget>(u"Pic_Pinyin"_s)->findChild<QLabel *>(u"labNotice"_s)->isVisible());
+        QVERIFY(Part(u"Pic_Pinyin"_s)->findChild<QLabel *>(u"labNotice"_s)->isVisible());
     }
 
     // What another copy of the program stored meanwhile stays, and the right ones go.
@@ -227,9 +213,9 @@ private Q_SLOTS:
              {Row{Qt::Key_Return, u"XBtn_Zonghe"_s, 4}, Row{Qt::Key_Enter, u"Chk_AlwaysTest"_s, 4},
               Row{Qt::Key_Space, u"XBtn_ReTest"_s, 4}, Row{Qt::Key_Escape, u"XBtn_Zonghe"_s, 0}}) {
             Open();
-            QTest::keyClick(Find<QWidget>(focus), key);
+            QTest::keyClick(Part(focus), key);
             QVERIFY(!m_window->isVisible());
-            QCOMPARE(m_window->result(), result);
+            QCOMPARE(qobject_cast<QDialog *>(m_window)->result(), result);
             QVERIFY(m_install->Entries(u"Users/Ann"_s).isEmpty()); // looking leaves no trace
         }
     }
@@ -274,41 +260,26 @@ private:
 
     void Open()
     {
-        m_window = std::make_unique<FrmUr_Manage>(nullptr);
+        delete m_window;
+        m_window = new FrmUr_Manage(nullptr);
         Dialogs::Show(*m_window);
-    }
-    template <typename Widget>
-    Widget *Find(const QString &name) const
-    {
-        return m_window->findChild<Widget *>(name);
     }
     MarkBox *Box(const QString &name, int index) const
     {
-        return Find<MarkBox>(name + QString::number(index));
+        return Part<MarkBox>(name + QString::number(index));
     }
-    int Shown(const QString &name) const
+    int ShownRows(const QString &name) const
     {
         int shown = 0;
         for (int i = 0; const MarkBox *box = Box(name, i); ++i)
             shown += box->isVisible();
         return shown;
     }
-    void Click(const QString &button) { QTest::mouseClick(Find<SkinButton>(button), Qt::LeftButton); }
 
-    struct Group
-    {
-        QString file;
-        QString box;
-        QString suffix;
-    };
-    const QList<Group> Groups{{u"Users/Ann/RecordEN.Dat"_s, u"ChkEnglish"_s, u"English"_s},
-                              {u"Users/Ann/RecordPY.Dat"_s, u"ChkPinyin"_s, u"Pinyin"_s},
-                              {u"Users/Ann/RecordWB.Dat"_s, u"ChkWuBi"_s, u"Wubi"_s},
-                              {u"Users/Ann/RecordEX.Dat"_s, u"ChkExam"_s, u"Exam"_s}};
-    FakeServices m_services;
-    std::optional<SkinnedInstall> m_install;
-    std::optional<FakeAnswers> m_answers;
-    std::unique_ptr<FrmUr_Manage> m_window;
+    const QList<std::array<QString, 3>> Groups{{u"Users/Ann/RecordEN.Dat"_s, u"ChkEnglish"_s, u"English"_s},
+                                               {u"Users/Ann/RecordPY.Dat"_s, u"ChkPinyin"_s, u"Pinyin"_s},
+                                               {u"Users/Ann/RecordWB.Dat"_s, u"ChkWuBi"_s, u"Wubi"_s},
+                                               {u"Users/Ann/RecordEX.Dat"_s, u"ChkExam"_s, u"Exam"_s}};
 };
 
 QTEST_MAIN(TestManage)

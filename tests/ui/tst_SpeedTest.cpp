@@ -3,7 +3,6 @@
 #include "ui/speedtest/frmFreeType.h"
 #include "ui/speedtest/frmTest.h"
 #include "ui/widgets/TypingBox.h"
-#include "ui/widgets/TypingLine.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -377,16 +376,6 @@ private:
         QCOMPARE(QApplication::focusWidget(), Box());
     }
     TypingBox *Box() const { return Part<TypingBox>("rtfCursor"); }
-    TypingLine *Line(const QString &name) const { return Part<TypingLine>(name); }
-    /// A row's text and how it looks, "-" untyped, "r" right, "w" wrong, and then the lit character.
-    QString Row(const QString &name) const
-    {
-        const TypingLine *line = Line(name);
-        QString shown = line->Text() + u'/';
-        for (int i = 0; i < line->Length(); ++i)
-            shown += u"-rw"[static_cast<int>(line->LookAt(i))];
-        return line->Mark() < 0 ? shown : shown + u'/' + line->Text().at(line->Mark());
-    }
     /// Does what ends the test, and returns what the result dialog says.
     QStringList ResultOf(const std::function<void()> &end)
     {

@@ -42,19 +42,18 @@ static QList<int> PaintedHeights(const QList<double> &values, double maximum)
 {
     Chart chart(u"chart"_s, u"Chart"_s, nullptr);
     chart.resize(500, 260);
-    const QColor barColor(200, 10, 20);
     ChartData data;
     data.kind = ChartData::Kind::Bar;
     data.values = values;
     data.maximum = maximum;
-    data.color = barColor;
+    data.color = QColor(200, 10, 20);
     chart.SetData(data);
     const QImage image = chart.grab().toImage();
     QList<int> heights;
     for (int x = 0, last = 0; x < image.width(); ++x) {
         int height = 0;
         for (int y = 0; y < image.height(); ++y)
-            height += image.pixelColor(x, y) == barColor;
+            height += image.pixelColor(x, y) == data.color;
         if (height > 0 && last == 0)
             heights += height;
         else if (height > 0)

@@ -135,9 +135,8 @@ private Q_SLOTS:
         qputenv("SDL_DISKAUDIODELAY", "1");
         const auto heard = [this] {
             const QByteArray bytes = m_install.Read(u"heard.raw"_s);
-            Samples samples(static_cast<std::size_t>(bytes.size()) / 2);
-            std::copy_n(bytes.constData(), 2 * samples.size(), reinterpret_cast<char *>(samples.data()));
-            return samples;
+            const auto *const first = reinterpret_cast<const qint16 *>(bytes.constData());
+            return Samples(first, first + bytes.size() / 2);
         };
         const QString first = m_install.Write(u"1.wav"_s, MakeWaveBytes(Samples(30 * 44100, 1000), 44100));
         const QString second = m_install.Write(u"2.wav"_s, MakeWaveBytes(Samples(5000, -2000), 44100));

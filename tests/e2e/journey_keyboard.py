@@ -9,52 +9,36 @@ TEST = "Speed Test \\ Screen Text"
 
 
 class Keyboard(Journey):
-    def focused(self, name, role=None):
-        self.program.holds(lambda: self.program.screen.find(name, role).has("focused"), f"the focus on {name!r}")
-
     def test_everything_by_keys(self):
         p = self.program
         p.write(b"Last lesson\r\nab\r\n", "Data", "English", "T_Character", "Standard", "99.txt")
         p.write(b"at noon", "Data", "English", "E_General", "lunch.txt")
         p.open()
         p.type("anna")
-        p.go(("alt+l", "Typing Speed Test"), ("alt+n", "Quorvex"))
-
         # The menu: arrows, Enter, letters, help, the system menu.
-        self.focused("English typing")
+        p.go(("alt+l", "Typing Speed Test"), ("alt+n", "Quorvex", "English typing"))
         p.go(("Down Up F1", "Quorvex Help"), ("Escape", "Quorvex"), ("Return", JUNIOR))
 
         # A drill: its lesson, its settings, its tabs.
-        p.keys("alt+l")
-        self.focused("Lessons")
-        p.keys("End", "Return")
+        p.go(("alt+l", "Quorvex", "Lessons"), ("End Return", JUNIOR))
         p.see("Last lesson", "label")
-        p.wait_active(JUNIOR)
         p.keys("a")
         p.described("Finger to use", "left index finger")
-        p.go(("alt+s", "Quorvex"))
-        self.focused("Normal", "radio button")
+        p.go(("alt+s", "Quorvex", "Normal", "radio button"))
         p.keys("alt+m")
         p.holds(lambda: p.screen.find("Music", "radio button").has("checked"), "music to be chosen")
-        p.go(("Return", JUNIOR))
-        p.keys("alt+s")
-        self.focused("Music", "radio button")
-        p.go(("Escape", JUNIOR))
+        p.go(("Return", JUNIOR), ("alt+s", "Quorvex", "Music", "radio button"), ("Escape", JUNIOR))
         p.described("Keyboard", "Next key: B, left index finger")
         p.go(("alt+k", KEYPAD), ("alt+k", JUNIOR), ("alt+2", SENIOR), ("F1", "Quorvex Help"), ("Escape", SENIOR),
              ("alt+b", "Quorvex"))
 
         # A test to its result, then who is the fastest.
-        p.go(("alt+s", TEST))
-        self.focused("Type here", "text")
-        p.go(("alt+t", "Top List"), ("Escape", TEST))
+        p.go(("alt+s", TEST, "Type here", "text"), ("alt+t", "Top List"), ("Escape", TEST))
         p.type("at noon")
         p.wait_active("Test result")
         p.keys("alt+w")
         p.described("Wrong characters", "No character was typed wrong")
-        p.go(("Tab Return", TEST), ("alt+t", "Top List"))
-        self.focused("Top list")
-        p.go(("alt+o", TEST), ("alt+b", "Quorvex"))
+        p.go(("Tab Return", TEST), ("alt+t", "Top List", "Top list"), ("alt+o", TEST), ("alt+b", "Quorvex"))
 
         # The records: the page of the tests, one ticked and deleted.
         p.go(("alt+c", "Personal Management"))
@@ -71,9 +55,7 @@ class Keyboard(Journey):
         p = self.program
         pinyin = self.start_pinyin()
         p.open_menu()
-        p.go(("alt+e", JUNIOR))
-        p.keys("alt+l")
-        self.focused("Lessons")
-        p.go(("Escape", JUNIOR), ("alt+b", "Quorvex"), ("alt+s", TEST))
+        p.go(("alt+e", JUNIOR), ("alt+l", "Quorvex", "Lessons"), ("Escape", JUNIOR), ("alt+b", "Quorvex"),
+             ("alt+s", TEST))
         pinyin.switch()
         p.go(("alt+t", "Top List"))

@@ -65,13 +65,10 @@ class Monkey(Journey):
     def prompt(self, window):
         """What a typist would type next, as far as the window says so."""
         try:
-            for name in ("Line to type", "Text to copy"):
-                node = window.find(name)
-                if node:
-                    return node.description[:BATCH]
+            node = window.find("Line to type") or window.find("Text to copy")
+            return node.description[:BATCH] if node else ""
         except Gone:
-            pass
-        return ""
+            return ""
 
     def events(self):
         """One call of xdotool: a few clicks and some typing."""

@@ -149,10 +149,13 @@ class Program:
         self.desktop.xdotool("type", "--delay", 20, "--", text)
 
     def go(self, *steps):
-        """Presses keys (separated by spaces) and waits for the window to which they lead, step by step."""
-        for keys, title in steps:
+        """Presses keys (separated by spaces) and waits for the window to which they lead, step by step. What has the
+        focus there, by name and role, may be said too."""
+        for keys, title, *focused in steps:
             self.keys(*keys.split())
             self.wait_active(title)
+            if focused:
+                self.holds(lambda: self.screen.find(*focused).has("focused"), f"the focus on {focused}")
 
     def click(self, name, role=None, times=1, opens=None):
         """Clicks the middle of a control as soon as it can be used, and waits for the window that it opens."""

@@ -261,6 +261,16 @@ private:
         return window;
     }
 
+    template <typename Window, typename... Arguments>
+    void Add(const QString &name, void (*prepare)(Window &), Arguments... arguments)
+    {
+        m_makers[name] = [=] {
+            auto *window = new Window(arguments..., nullptr);
+            prepare(*window);
+            return window;
+        };
+    }
+
     void AddMakers()
     {
         m_makers[u"menu"_s] = [this] {
@@ -288,41 +298,27 @@ private:
         m_makers[u"speed test"_s] = [this] { return ShowLesson<frmTest>(); };
         m_makers[u"free typing"_s] = [this] { return ShowLesson<frmFreeType>(); };
         m_makers[u"placement"_s] = [this] { return ShowLesson<Frm_BeginTest>(); };
-        m_makers[u"key lesson"_s] = [] {
-            auto *dialog = new DlgEn_KeyLesson(nullptr);
-            dialog->ShowKeyLesson();
-            return dialog;
-        };
+        Add<DlgEn_KeyLesson>(u"key lesson"_s, [](auto &dialog) { dialog.ShowKeyLesson(); });
         m_makers[u"word lesson"_s] = [] { return new DlgEn_WordLesson(nullptr); };
         m_makers[u"text lesson"_s] = [] { return new DlgEn_ArticleLesson(nullptr); };
         m_makers[u"key drill settings"_s] = [] { return new DlgEn_KeyTrainSetting(nullptr); };
-        m_makers[u"word drill settings"_s] = [] {
-            auto *dialog = new DlgEn_WordTrainSetting(nullptr);
-            dialog->SetShowExplanation(1, true);
-            return dialog;
-        };
+        Add<DlgEn_WordTrainSetting>(u"word drill settings"_s,
+                                    [](auto &dialog) { dialog.SetShowExplanation(1, true); });
         m_makers[u"text drill settings"_s] = [] { return new DlgEn_ArticleTrainSetting(nullptr); };
         m_makers[u"test text"_s] = [] { return new DlgSelLsn(Shared().InstallDir, nullptr); };
         m_makers[u"printed text"_s] = [] { return new DlgTestSelect(nullptr); };
-        m_makers[u"test settings"_s] = [] {
-            auto *dialog = new DlgTestSetting(nullptr);
-            dialog->SetDisplayMode(0);
-            dialog->SetEndOption(1, 10);
-            return dialog;
-        };
-        m_makers[u"test result"_s] = [] {
-            auto *dialog = new DlgTestResult(nullptr);
+        Add<DlgTestSetting>(u"test settings"_s, [](auto &dialog) {
+            dialog.SetDisplayMode(0);
+            dialog.SetEndOption(1, 10);
+        });
+        Add<DlgTestResult>(u"test result"_s, [](auto &dialog) {
             const KTest test;
-            dialog->CalChartData(&test, {});
-            dialog->SelectChart(0);
-            return dialog;
-        };
+            dialog.CalChartData(&test, {});
+            dialog.SelectChart(0);
+        });
         m_makers[u"placement question"_s] = [] { return new DlgUr_IfBeginTest(nullptr); };
-        m_makers[u"placement result"_s] = [] {
-            auto *dialog = new DlgUr_BeginTestResult(true, nullptr);
-            dialog->SetSpeed_Veracity(30, 90);
-            return dialog;
-        };
+        Add<DlgUr_BeginTestResult>(
+            u"placement result"_s, [](auto &dialog) { dialog.SetSpeed_Veracity(30, 90); }, true);
         m_makers[u"top list"_s] = [] { return new DlgHighScore(nullptr); };
         for (int tab = 0; tab < 7; ++tab)
             m_makers[u"records %1"_s.arg(tab)] = [tab] {

@@ -35,7 +35,11 @@ protected:
 
     QString State(const char *name) const { return Part(name)->accessibleDescription(); }
     QString Keys() const { return State("PromptKeys"); }
-    QString Keyboard() const { return State("CXKeyBoard1"); }
+    QString Keyboard() const
+    {
+        QCoreApplication::processEvents();
+        return State("CXKeyBoard1");
+    }
     QString Cap(int index) const
     {
         const QWidget *cap = Part(QStringLiteral("PromptKey%1").arg(index));

@@ -106,7 +106,11 @@ private Q_SLOTS:
 private:
     static constexpr auto LessonFile = "Data/English/T_Character/Numpad/00.txt"_L1;
 
-    QString Keypad() const { return State("XNumBoard1"); }
+    QString Keypad() const
+    {
+        QCoreApplication::processEvents();
+        return State("XNumBoard1");
+    }
     void Send(QEvent::Type type, int key, const QString &text, quint32 scanCode,
               Qt::KeyboardModifiers modifiers)
     {

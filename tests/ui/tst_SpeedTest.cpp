@@ -53,6 +53,7 @@ private Q_SLOTS:
         Press(Qt::Key_Backspace);
         QTEST(Row(mode == 2 ? u"rtfSubject0"_s : u"rtfInput0"_s), "takenBack");
         // The typing box lies over the place to type at.
+        QCoreApplication::processEvents();
         TypingLine *row = Line(mode == 2 ? u"rtfSubject0"_s : u"rtfInput0"_s);
         QVERIFY(qAbs(Box()->x() - row->x() - row->CellRect(1).x()) <= 1);
         QCOMPARE(Box()->y(), row->y());
@@ -319,9 +320,9 @@ private Q_SLOTS:
             row = Line(u"rtfSubject1"_s);
         QCOMPARE(row->Length(), 1'000'000);
         QCoreApplication::processEvents();
-        const qint64 before = row->LaidOutSoFar();
+        const qint64 before = row->PlacedSoFar();
         Type(QString(300, u'a'));
-        QVERIFY(row->LaidOutSoFar() - before < 300 * 600);
+        QVERIFY(row->PlacedSoFar() - before < 300 * 600);
         QCOMPARE(row->Mark(), 300);
         QVERIFY(row->rect().contains(row->CellRect(300)));
         QVERIFY(row->CellRect(0).isNull());

@@ -4,6 +4,7 @@
 #include "ui/drills/KeyLessonDialogs.h"
 #include "ui/widgets/HandsPicture.h"
 #include "ui/widgets/KeyCapRow.h"
+#include "ui/widgets/PaintNow.h"
 
 KeyCapDrill::KeyCapDrill(const DrillFacts &facts, const KeyLessonSettings &settings, Navigator &navigator,
                          QWidget *owner)
@@ -138,19 +139,27 @@ void KeyCapDrill::TypeCharacter(char32_t typed, bool)
         ShowHint(tr("Input by the current key suggested"));
         break;
     case KeyDrillSession::Judgement::NextKey:
-        PlayRight(typed);
-        ShowPromptCursor();
+        if (m_capRow)
+            m_capRow->ShowPrompt(m_session.PromptIndex());
+        ShowNext(typed);
         break;
     case KeyDrillSession::Judgement::NextGroup:
-        PlayRight(typed);
         if (m_capRow)
             m_capRow->ShowGroup(m_session.CurrentGroup(), m_session.PromptIndex());
-        ShowPromptCursor();
+        ShowNext(typed);
         break;
     case KeyDrillSession::Judgement::LessonDone:
         CompleteLesson();
         break;
     }
+}
+
+/// After a right key, whose place in the row of caps is marked already.
+void KeyCapDrill::ShowNext(char32_t typed)
+{
+    Public_Function::PaintNow(this);
+    PlayRight(typed);
+    ShowPromptCursor();
 }
 
 QRect KeyCapDrill::TypingArea() const

@@ -55,6 +55,7 @@ protected:
 private:
     void ShowGroup();
     void ShowPromptCursor();
+    void ShowNext(char32_t typed);
     void ShowPrompt();
 
     const KeyLessonSettings m_settings;

@@ -2,6 +2,7 @@
 
 #include "core/shell/Public_Define.h"
 #include "ui/widgets/OnScreenKeyboard.h"
+#include "ui/widgets/PaintNow.h"
 #include "ui/widgets/SkinButton.h"
 #include "ui/widgets/TypingLine.h"
 
@@ -65,11 +66,16 @@ void LineDrill::ShowLine()
 
 void LineDrill::ShowPlace()
 {
+    ShowPosition();
+    ShowPromptKey(m_session.Expected());
+    OnPlaceChanged();
+}
+
+void LineDrill::ShowPosition()
+{
     const int position = m_session.Position();
     PromptRTB->SetPosition(position, position < PromptRTB->Length());
     InputRTB->SetPosition(position, false);
-    ShowPromptKey(m_session.Expected());
-    OnPlaceChanged();
 }
 
 void LineDrill::TypeCharacter(char32_t typed, bool accepted)
@@ -89,19 +95,23 @@ void LineDrill::Judge(char32_t typed)
 {
     const int position = m_session.Position();
     const LineSession::Outcome outcome = m_session.Type(typed);
+    const bool nextLine = outcome.step == LineSession::Step::NextLine;
+    if (!nextLine) {
+        const TypingLine::Look look = outcome.right ? TypingLine::Look::Right : TypingLine::Look::Wrong;
+        if (position < PromptRTB->Length())
+            PromptRTB->SetCharacter(position, m_session.Judged(), look);
+        InputRTB->SetCharacter(position, typed, look);
+        ShowPosition();
+        Public_Function::PaintNow(this);
+    }
     if (outcome.right)
         PlayRight(typed);
     else
         PlayWrong();
-    if (outcome.step == LineSession::Step::NextLine) {
+    if (nextLine)
         ShowLine();
-        return;
-    }
-    const TypingLine::Look look = outcome.right ? TypingLine::Look::Right : TypingLine::Look::Wrong;
-    if (position < PromptRTB->Length())
-        PromptRTB->SetCharacter(position, m_session.Judged(), look);
-    InputRTB->SetCharacter(position, typed, look);
-    ShowPlace();
+    else
+        ShowPlace();
     if (outcome.step == LineSession::Step::LessonDone)
         CompleteLesson();
 }

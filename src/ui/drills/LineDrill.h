@@ -53,6 +53,7 @@ private:
     void Judge(char32_t typed);
     void TakeBack();
     void ShowPlace();
+    void ShowPosition();
 
     const LineDrillPlaces m_places;
     TypingLine *PromptRTB;

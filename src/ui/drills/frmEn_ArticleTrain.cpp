@@ -5,6 +5,7 @@
 #include "ui/drills/ArticleLayout.h"
 #include "ui/drills/DlgEn_ArticleLesson.h"
 #include "ui/drills/DlgEn_ArticleTrainSetting.h"
+#include "ui/widgets/PaintNow.h"
 #include "ui/widgets/SkinButton.h"
 
 #include <QKeyEvent>
@@ -174,14 +175,15 @@ void frmEn_ArticleTrain::TypeCharacter(char32_t typed, bool accepted)
     const Outcome outcome = m_session.TypeCharacter(typed);
     if (outcome.kind == Outcome::Kind::Ignored)
         return;
-    if (outcome.kind == Outcome::Kind::Right)
-        PlayRight(expected);
-    else if (outcome.kind == Outcome::Kind::Wrong)
-        PlayWrong();
     if (outcome.then == Outcome::Then::SamePage)
         m_page.ShowStep(m_session, line, column);
     else
         m_page.ShowAll(m_session);
+    Public_Function::PaintNow(this);
+    if (outcome.kind == Outcome::Kind::Right)
+        PlayRight(expected);
+    else if (outcome.kind == Outcome::Kind::Wrong)
+        PlayWrong();
     if (outcome.then == Outcome::Then::ArticleDone) {
         SaveTrainData();
         CompleteLesson();

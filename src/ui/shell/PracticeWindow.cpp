@@ -159,6 +159,8 @@ void PracticeWindow::ShowLessonTitle(const QString &title)
 
 void PracticeWindow::ShowHint(const QString &text)
 {
+    if (labHint->text() == text)
+        return;
     // One with the name of an input method may need more room than there is beside the hands.
     constexpr int widest = 300;
     const auto isCut = [this, &text](int width) {

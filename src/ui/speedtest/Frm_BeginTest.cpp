@@ -12,6 +12,7 @@
 #include "ui/skin/StatusTexts.h"
 #include "ui/skin/WindowFrame.h"
 #include "ui/speedtest/DlgUr_BeginTestResult.h"
+#include "ui/widgets/PaintNow.h"
 #include "ui/widgets/ProgressBox.h"
 #include "ui/widgets/SkinButton.h"
 #include "ui/widgets/TypingBox.h"
@@ -140,13 +141,14 @@ void Frm_BeginTest::TypeCharacter(char32_t typed)
         return;
     m_clock.Start();
     StatusTimer->start();
-    if (m_sound && outcome.kind != Outcome::Kind::TakenBack)
-        Public_Function::PlayEffect(outcome.kind == Outcome::Kind::Right ? u"Type.WAV"_s : u"Error.wav"_s);
     if (outcome.then == Outcome::Then::SamePage)
         m_page.ShowStep(m_session.Page(), line, column);
     else
         m_page.ShowAll(m_session.Page());
     ShowTypingPlace();
+    Public_Function::PaintNow(this);
+    if (m_sound && outcome.kind != Outcome::Kind::TakenBack)
+        Public_Function::PlayEffect(outcome.kind == Outcome::Kind::Right ? u"Type.WAV"_s : u"Error.wav"_s);
     if (outcome.then == Outcome::Then::ArticleDone)
         Finish();
 }

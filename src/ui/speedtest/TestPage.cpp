@@ -62,16 +62,18 @@ void TestPage::ShowPosition(int row, int position, TypingBox *box) const
     if (TypingLine *subject = Subject(row))
         subject->SetPosition(position, position < subject->Length());
     TypingLine *input = Input(row);
-    if (!over)
+    if (!over) {
         input->SetPosition(position, false);
-    box->setFont(input->font());
+        input->SetCaret(box->hasFocus());
+    }
     box->PlaceAt(input->CellRect(position).translated(input->pos()), input->geometry().right(),
                  over ? TypingBox::Composition::Below : TypingBox::Composition::InLine);
-    box->raise();
 }
 
 void TestPage::HidePosition() const
 {
     for (TypingLine *subject : m_subjects)
         subject->SetPosition(-1, false);
+    for (TypingLine *input : m_inputs)
+        input->SetCaret(false);
 }

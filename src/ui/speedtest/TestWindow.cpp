@@ -9,9 +9,11 @@
 #include "ui/skin/StatusTexts.h"
 #include "ui/skin/WindowFrame.h"
 #include "ui/speedtest/DlgTestResult.h"
+#include "ui/widgets/PaintNow.h"
 #include "ui/widgets/SkinButton.h"
 #include "ui/widgets/TabRegion.h"
 #include "ui/widgets/TypingBox.h"
+#include "ui/widgets/TypingLine.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -55,9 +57,11 @@ TestWindow::TestWindow(const QString &objectName, Navigator &navigator, std::uni
     connect(rtfCursor, &TypingBox::BackspacePressed, this, &TestWindow::OnBackspace);
     connect(rtfCursor, &TypingBox::EnterReleased, this, &TestWindow::OnEnter);
     connect(rtfCursor, &TypingBox::SpaceReleased, this, &TestWindow::OnSpace);
-    connect(rtfCursor, &TypingBox::FocusChanged, this, [](bool focused) {
+    connect(rtfCursor, &TypingBox::FocusChanged, this, [this](bool focused) {
         if (focused)
             PlatformServices().inputMethod->Refresh();
+        if (m_nTestState != TestState::Idle)
+            ShowPosition(); // the caret comes and goes with the focus
     });
     connect(BtnOver, &SkinButton::clicked, this, &TestWindow::FinishTest);
     connect(BtnStop, &SkinButton::clicked, this, &TestWindow::FinishTest);
@@ -192,6 +196,8 @@ void TestWindow::ShowSource()
 void TestWindow::BuildPage()
 {
     m_page.Build(Mode(), Layout().origin);
+    rtfCursor->setFont(m_page.Input(0)->font());
+    rtfCursor->raise();
     FollowEngine();
     update();
 }
@@ -287,9 +293,10 @@ void TestWindow::Judge(const QString &unit)
 {
     m_engine->CheckString(unit);
     const bool wrong = ShowTyped(m_nRow - 1);
+    ShowPosition();
+    Public_Function::PaintNow(this);
     if (IsKeySoundOn())
         Public_Function::PlayEffect(wrong ? u"Error.wav"_s : u"Type.WAV"_s);
-    ShowPosition();
     if (IsLineComplete())
         EndLine();
 }

@@ -1,5 +1,6 @@
 #include "ui/widgets/KeyCap.h"
 
+#include "ui/widgets/CharacterGlyphs.h"
 #include "ui/widgets/PaintedAccess.h"
 
 #include <QPainter>
@@ -18,10 +19,9 @@ KeyCap::KeyCap(int index, KeyCapLook &look, QWidget *parent)
 void KeyCap::Show(char32_t character, State state)
 {
     const char32_t upper = QChar::toUpper(character);
-    const QString text = QString::fromUcs4(&upper, 1);
-    if (m_text != text) {
-        m_text = text;
-        setAccessibleName(text);
+    if (m_character != upper) {
+        m_character = upper;
+        setAccessibleName(QString::fromUcs4(&upper, 1));
         update();
     }
     SetState(state);
@@ -62,10 +62,9 @@ void KeyCap::paintEvent(QPaintEvent *)
         painter.fillRect(rect().adjusted(1, 1, -1, -1),
                          m_state == State::Expected ? QColor(255, 214, 170) : QColor(233, 233, 233));
     }
-    painter.setFont(m_look.font);
     painter.setPen(m_state == State::Typed ? QColor(255, 164, 84) : QColor(Qt::black));
-    const QFontMetrics metrics(m_look.font);
     // A wide character moves left until it stands centred.
-    const int x = qMin(m_look.characterOffset.x(), (width() - metrics.horizontalAdvance(m_text)) / 2);
-    painter.drawText(QPoint(x, m_look.characterOffset.y() + metrics.ascent()), m_text);
+    const int centred = (width() - qRound(m_look.glyphs->Advance(m_character))) / 2;
+    const QPoint origin(qMin(m_look.characterOrigin.x(), centred), m_look.characterOrigin.y());
+    m_look.glyphs->Draw(painter, origin, m_character);
 }

@@ -2,15 +2,17 @@
 
 #include "ui/widgets/HeldPicture.h"
 
-#include <QFont>
 #include <QPoint>
 #include <QWidget>
+#include <memory>
+
+class CharacterGlyphs;
 
 /// How key caps look; all caps of a row share one.
 struct KeyCapLook
 {
-    QFont font;
-    QPoint characterOffset; ///< of the printed character's top left corner in the cap
+    std::shared_ptr<CharacterGlyphs> glyphs;
+    QPoint characterOrigin; ///< left end of the printed character's base line in the cap
     HeldPicture normal{QStringLiteral("ICON_KEY_NORMAL")};
     HeldPicture on{QStringLiteral("ICON_KEY_ON")};
 };
@@ -36,6 +38,6 @@ private:
     void DescribeState();
 
     KeyCapLook &m_look;
-    QString m_text;
+    char32_t m_character = 0;
     State m_state = State::Waiting;
 };

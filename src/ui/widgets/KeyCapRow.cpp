@@ -3,6 +3,9 @@
 #include "core/shell/Public_Define.h"
 #include "ui/skin/Fonts.h"
 #include "ui/skin/SkinLibrary.h"
+#include "ui/widgets/CharacterGlyphs.h"
+
+#include <QFontMetrics>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -12,8 +15,10 @@ KeyCapRow::KeyCapRow(const DrillLayout &layout, QWidget *parent)
 {
     setObjectName(u"PromptKeys"_s);
     setAccessibleName(tr("Keys to type"));
-    m_look.font = Public_Function::DisplayFont(Shared().FontSizeTable[layout.Pick<std::size_t>(5, 4)]);
-    m_look.characterOffset = layout.Pick(QPoint(14, 4), QPoint(18, 5));
+    const QFont font = Public_Function::DisplayFont(Shared().FontSizeTable[layout.Pick<std::size_t>(5, 4)]);
+    m_look.glyphs = CharacterGlyphs::In(font);
+    m_look.characterOrigin =
+        layout.Pick(QPoint(14, 4), QPoint(18, 5)) + QPoint(0, QFontMetrics(font).ascent());
     m_capSize = SkinLibrary().BitmapSize(u"ICON_KEY_NORMAL"_s);
     if (m_capSize.isEmpty())
         m_capSize = layout.Pick(QSize(52, 52), QSize(62, 62));

@@ -58,7 +58,7 @@ void OnScreenKeys::UpdatePrompt()
             UpdateKey(stroke->shiftKey);
         }
     }
-    DescribeState();
+    ShowChangesSoon();
 }
 
 void OnScreenKeys::KeyDown(const KeyStroke &stroke)
@@ -70,7 +70,6 @@ void OnScreenKeys::KeyDown(const KeyStroke &stroke)
         return;
     m_held.append({stroke.id, *key});
     UpdateKey(key);
-    DescribeState();
 }
 
 void OnScreenKeys::KeyUp(const KeyStroke &stroke)
@@ -82,7 +81,6 @@ void OnScreenKeys::KeyUp(const KeyStroke &stroke)
     const int key = held->key;
     m_held.erase(held);
     UpdateKey(key);
-    DescribeState();
 }
 
 void OnScreenKeys::ReleaseAllKeys()
@@ -91,7 +89,6 @@ void OnScreenKeys::ReleaseAllKeys()
         return;
     for (const HeldKey &held : std::exchange(m_held, {}))
         UpdateKey(held.key);
-    DescribeState();
 }
 
 void OnScreenKeys::Check(char32_t typed)
@@ -120,8 +117,23 @@ bool OnScreenKeys::IsPrompted(int key) const
 
 void OnScreenKeys::UpdateKey(std::optional<int> key)
 {
-    if (key)
-        update(KeyRect(*key));
+    if (!key)
+        return;
+    m_changed += KeyRect(*key);
+    ShowChangesSoon();
+}
+
+void OnScreenKeys::ShowChangesSoon()
+{
+    if (!std::exchange(m_showingSoon, true))
+        QMetaObject::invokeMethod(this, &OnScreenKeys::ShowChanges, Qt::QueuedConnection);
+}
+
+void OnScreenKeys::ShowChanges()
+{
+    m_showingSoon = false;
+    update(std::exchange(m_changed, {}));
+    DescribeState();
 }
 
 void OnScreenKeys::DescribeState()

@@ -9,6 +9,9 @@
 /// Keys drawn on the screen: the key to press next is lit (with Shift, where Shift is needed), keys that are
 /// held down are sunk. It also tells whether what was typed is what was expected. What keys there are is the
 /// business of the classes derived from it.
+///
+/// Changes are painted and described when the event loop runs again, so that the text that is typed, which a
+/// person looks at, comes first.
 class OnScreenKeys : public QWidget
 {
     Q_OBJECT
@@ -69,6 +72,8 @@ private:
     bool IsPressed(int key) const;
     bool IsPrompted(int key) const;
     void UpdateKey(std::optional<int> key);
+    void ShowChangesSoon();
+    void ShowChanges();
     void UpdatePrompt();
     void DescribeState();
     void PaintKey(QPainter &painter, int key, const QRect &rect, bool skinned);
@@ -78,6 +83,8 @@ private:
     std::optional<AnsiStroke> m_prompt;
     QList<HeldKey> m_held;
     bool m_caseCounts = false;
+    QRegion m_changed; ///< keys that look otherwise now than they are painted
+    bool m_showingSoon = false;
 
     struct Outcome
     {

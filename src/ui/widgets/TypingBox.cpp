@@ -14,9 +14,9 @@
 
 namespace {
 
-constexpr int CaretWidth = 2;
+constexpr int NarrowestWidth = 2;
 constexpr int CompositionPadding = 4;
-constexpr QColor CaretColor(28, 78, 140);
+constexpr QColor InkColor(28, 78, 140);
 
 bool IsEnter(const QKeyEvent *event)
 {
@@ -42,12 +42,15 @@ void TypingBox::PlaceAt(const QRect &cell, int rightLimit, Composition compositi
     m_cell = cell;
     m_rightLimit = rightLimit;
     m_composition = composition;
-    Place();
+    if (m_preedit.isEmpty())
+        PlaceSoon();
+    else
+        Place();
 }
 
 void TypingBox::Place()
 {
-    QRect area(m_cell.left(), m_cell.top(), CaretWidth, m_cell.height());
+    QRect area(m_cell.left(), m_cell.top(), NarrowestWidth, m_cell.height());
     if (!m_preedit.isEmpty()) {
         const int wide = fontMetrics().horizontalAdvance(m_preedit) + 2 * CompositionPadding;
         area.setWidth(wide);
@@ -60,6 +63,19 @@ void TypingBox::Place()
         setGeometry(area);
     update();
     QGuiApplication::inputMethod()->update(Qt::ImCursorRectangle);
+}
+
+void TypingBox::PlaceSoon()
+{
+    if (std::exchange(m_placingSoon, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_placingSoon = false;
+            Place();
+        },
+        Qt::QueuedConnection);
 }
 
 QRect TypingBox::PreeditRect() const
@@ -185,18 +201,13 @@ void TypingBox::focusOutEvent(QFocusEvent *event)
 
 void TypingBox::paintEvent(QPaintEvent *)
 {
-    QPainter painter(this);
-    if (m_preedit.isEmpty()) {
-        // Where the character to type stands under the caret, that one is lit instead.
-        const int tall = qMin(fontMetrics().height(), m_cell.height());
-        if (hasFocus() && m_composition == Composition::InLine)
-            painter.fillRect(0, (m_cell.height() - tall) / 2, CaretWidth, tall, CaretColor);
+    if (m_preedit.isEmpty())
         return;
-    }
+    QPainter painter(this);
     const QRect box = PreeditRect();
     painter.fillRect(box, QColor(255, 244, 226));
-    painter.setPen(CaretColor);
+    painter.setPen(InkColor);
     painter.drawText(box.adjusted(CompositionPadding, 0, -CompositionPadding, 0), Qt::AlignVCenter,
                      m_preedit);
-    painter.fillRect(QRect(box.left() + 1, box.bottom() - 2, box.width() - 2, 1), CaretColor);
+    painter.fillRect(QRect(box.left() + 1, box.bottom() - 2, box.width() - 2, 1), InkColor);
 }

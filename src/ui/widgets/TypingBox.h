@@ -3,9 +3,9 @@
 #include <QWidget>
 
 /// The place where everything is typed: keys and what an input method commits. It lies over the typing
-/// position without covering it, shows a caret and what is being composed, and keeps the candidate window of
-/// the input method below itself. It holds no text: each character is told and gone. Nothing can be pasted,
-/// dropped or deleted.
+/// position without covering it, shows what is being composed, and keeps the candidate window of the input
+/// method below itself. It holds no text: each character is told and gone. Nothing can be pasted, dropped or
+/// deleted.
 class TypingBox final : public QWidget
 {
     Q_OBJECT
@@ -18,8 +18,9 @@ public:
         Below   ///< under the line, where the text to type stands behind the typing position
     };
 
-    /// Puts the caret at the left edge of `cell`, in coordinates of the parent; what is composed stays left
-    /// of `rightLimit`.
+    /// Moves to the left edge of `cell`, in coordinates of the parent; what is composed stays left of
+    /// `rightLimit`. While nothing is composed it moves when the event loop runs again, behind the paint of
+    /// what was typed.
     void PlaceAt(const QRect &cell, int rightLimit, Composition composition);
     /// Drops what is being composed.
     void CancelComposition();
@@ -51,6 +52,7 @@ protected:
 private:
     void Tell(const QString &text);
     void Place();
+    void PlaceSoon();
     QRect PreeditRect() const;
 
     QRect m_cell;
@@ -60,4 +62,5 @@ private:
     int m_preeditCursor = 0;
     bool m_enterDown = false;
     bool m_spaceDown = false;
+    bool m_placingSoon = false;
 };

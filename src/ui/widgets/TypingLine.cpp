@@ -2,12 +2,16 @@
 
 #include "ui/skin/Fonts.h"
 #include "ui/skin/SkinLibrary.h"
+#include "ui/widgets/CharacterGlyphs.h"
 
 #include <QAccessibleWidget>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTimerEvent>
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,9 +20,10 @@ namespace {
 
 constexpr int SidePadding = 6;
 constexpr int LineCaretWidth = 2;
-constexpr int MostLaidOut = 256; ///< more than the widest box holds of the narrowest letters
-constexpr int KeptBehind = 10;   ///< characters in sight before the typing position after the view has moved
-constexpr int KeptAhead = 3;     ///< and at least behind it before it moves
+constexpr int MostPlaced = 256; ///< more than the widest box holds of the narrowest letters
+constexpr int KeptBehind = 10;  ///< characters in sight before the typing position after the view has moved
+constexpr int KeptAhead = 3;    ///< and at least behind it before it moves
+constexpr int SettleTime = 15;  ///< milliseconds; less than there are between two keys of anybody
 
 /// What was typed and what comes next, for those who cannot see the colours.
 class TypingLineAccess final : public QAccessibleWidget
@@ -43,33 +48,10 @@ QAccessibleInterface *MakeTypingLineAccess(const QString &, QObject *object)
     return line ? new TypingLineAccess(line) : nullptr;
 }
 
-bool IsBlank(char32_t character)
+const QColor &InkOf(TypingLine::Look look)
 {
-    return character == 0x3000 || QChar::isSpace(character);
-}
-
-/// A line break inside the line, or another control character, is drawn as a space.
-QString DrawnForm(char32_t character)
-{
-    const QChar::Category kind = QChar::category(character);
-    const bool blank =
-        kind == QChar::Other_Control || kind == QChar::Separator_Line || kind == QChar::Separator_Paragraph;
-    return blank ? u" "_s : QString::fromUcs4(&character, 1);
-}
-
-QTextCharFormat FormatOf(TypingLine::Look look, bool blank)
-{
-    QTextCharFormat format;
-    if (look == TypingLine::Look::Untyped) {
-        format.setForeground(Qt::black);
-    } else if (look == TypingLine::Look::Right) {
-        format.setForeground(QColor(177, 177, 177));
-    } else {
-        format.setForeground(QColor(255, 0, 0));
-        if (blank) // red ink would not show
-            format.setBackground(QColor(255, 190, 190));
-    }
-    return format;
+    static const std::array<QColor, 3> inks{Qt::black, QColor(177, 177, 177), QColor(255, 0, 0)};
+    return inks[static_cast<std::size_t>(look)];
 }
 
 } // namespace
@@ -85,6 +67,7 @@ TypingLine::TypingLine(const QString &objectName, const QString &accessibleName,
     setAccessibleName(accessibleName);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::NoFocus);
+    TakeFont();
 }
 
 QFont TypingLine::TextFont(int scaledPoints)
@@ -96,17 +79,28 @@ QFont TypingLine::TextFont(int scaledPoints)
     return font;
 }
 
+void TypingLine::TakeFont()
+{
+    const QFontMetrics metrics(font());
+    m_glyphs = CharacterGlyphs::In(font());
+    m_letterWidth = metrics.horizontalAdvance(u'a');
+    m_ascent = metrics.ascent();
+    m_descent = metrics.descent();
+    m_stale = true;
+    update();
+}
+
 int TypingLine::Columns() const
 {
-    return (width() - 2 * SidePadding) / qMax(1, fontMetrics().horizontalAdvance(u'a'));
+    return (width() - 2 * SidePadding) / qMax(1, m_letterWidth);
 }
 
 bool TypingLine::Fits(const std::u32string &text) const
 {
-    QString drawn;
+    qreal wide = 0;
     for (const char32_t character : text)
-        drawn += DrawnForm(character);
-    return QFontMetricsF(font()).horizontalAdvance(drawn) <= width() - 2 * SidePadding;
+        wide += m_glyphs->Advance(character);
+    return wide <= width() - 2 * SidePadding;
 }
 
 void TypingLine::SetLine(std::u32string text, std::vector<Look> looks)
@@ -131,11 +125,12 @@ void TypingLine::SetCharacter(int position, char32_t character, Look look)
     if (added) {
         m_text += character;
         m_looks.push_back(look);
+        PlaceAdded();
     } else {
+        m_stale = m_stale || m_glyphs->Advance(m_text[index]) != m_glyphs->Advance(character);
         m_text[index] = character;
         m_looks[index] = look;
     }
-    m_stale = true;
     const QRect after = CellRect(position);
     if (added || before.width() == after.width())
         UpdateCells(before | after);
@@ -150,7 +145,10 @@ void TypingLine::Truncate(int length)
     const QRect from = CellRect(length);
     m_text.resize(static_cast<std::size_t>(length));
     m_looks.resize(static_cast<std::size_t>(length));
-    m_stale = true;
+    if (length < m_first)
+        m_stale = true;
+    else if (length < ShownEnd())
+        m_lefts.resize(static_cast<std::size_t>(length - m_first) + 1);
     UpdateFrom(from.left());
 }
 
@@ -166,8 +164,8 @@ void TypingLine::SetPosition(int position, bool marked)
 
 void TypingLine::SetCaret(bool shown)
 {
-    m_caret = shown;
-    UpdatePlace();
+    if (std::exchange(m_caret, shown) != shown)
+        UpdateCells(CellRect(m_position));
 }
 
 void TypingLine::UpdatePlace()
@@ -179,7 +177,7 @@ void TypingLine::UpdatePlace()
 /// How far a character reaches into its neighbours' places, as the hook of a j does.
 int TypingLine::Overhang() const
 {
-    return fontMetrics().height() / 8 + 1;
+    return (m_ascent + m_descent) / 8 + 1;
 }
 
 void TypingLine::UpdateCells(const QRect &cells)
@@ -195,7 +193,7 @@ void TypingLine::UpdateFrom(int left)
 
 void TypingLine::Follow()
 {
-    EnsureLayout();
+    PlaceCharacters();
     const int ahead = std::min(m_position + KeptAhead, Length());
     const bool hiddenLeft = m_first > 0 && m_position <= m_first;
     const bool hiddenRight = ahead > ShownEnd() || LeftOf(ahead) > width() - SidePadding;
@@ -209,110 +207,110 @@ void TypingLine::Follow()
     update();
 }
 
-QList<QTextLayout::FormatRange> TypingLine::Colours() const
-{
-    QList<QTextLayout::FormatRange> ranges;
-    const auto first = static_cast<std::size_t>(m_first);
-    const std::size_t count = m_offsets.size() - 1;
-    const auto sameLook = [&](std::size_t a, std::size_t b) {
-        return m_looks[first + a] == m_looks[first + b] &&
-               (m_looks[first + a] != Look::Wrong ||
-                IsBlank(m_text[first + a]) == IsBlank(m_text[first + b]));
-    };
-    for (std::size_t start = 0; start < count;) {
-        std::size_t end = start + 1;
-        while (end < count && sameLook(start, end))
-            ++end;
-        ranges.append({m_offsets[start], m_offsets[end] - m_offsets[start],
-                       FormatOf(m_looks[first + start], IsBlank(m_text[first + start]))});
-        start = end;
-    }
-    return ranges;
-}
-
-void TypingLine::EnsureLayout()
+/// Sums up the places of the shown part, which begins at m_first.
+void TypingLine::PlaceCharacters()
 {
     if (!m_stale)
         return;
     m_stale = false;
     m_first = std::min(m_first, Length());
-    const int end = std::min(Length(), m_first + MostLaidOut);
-    QString shown;
-    m_offsets.clear();
-    for (int i = m_first; i < end; ++i) {
-        m_offsets.push_back(static_cast<int>(shown.size()));
-        shown += DrawnForm(m_text[static_cast<std::size_t>(i)]);
-    }
-    m_offsets.push_back(static_cast<int>(shown.size()));
-    m_laidOutSoFar += end - m_first;
-
-    QTextOption option;
-    option.setWrapMode(QTextOption::NoWrap);
-    option.setTextDirection(Qt::LeftToRight);
-    m_layout.setTextOption(option);
-    m_layout.setFont(font());
-    m_layout.setText(shown);
-    m_layout.setFormats(Colours());
-    m_layout.beginLayout();
-    m_layout.createLine();
-    m_layout.endLayout();
+    m_lefts.assign(1, SidePadding);
+    const int end = std::min(Length(), m_first + MostPlaced);
+    for (int i = m_first; i < end; ++i)
+        m_lefts.push_back(m_lefts.back() + m_glyphs->Advance(CharacterAt(i)));
+    m_placedSoFar += end - m_first;
 }
 
-qreal TypingLine::LeftOf(int position) const
+/// The same where only the last character is new.
+void TypingLine::PlaceAdded()
 {
-    const auto offset = static_cast<std::size_t>(position - m_first);
-    return SidePadding + (m_layout.lineCount() > 0 ? m_layout.lineAt(0).cursorToX(m_offsets[offset]) : 0.0);
+    if (m_stale || ShownEnd() != Length() - 1 || Length() - m_first > MostPlaced) {
+        m_stale = true;
+        return;
+    }
+    m_lefts.push_back(m_lefts.back() + m_glyphs->Advance(m_text.back()));
+    ++m_placedSoFar;
 }
 
 QRect TypingLine::CellRect(int position)
 {
-    EnsureLayout();
+    PlaceCharacters();
     if (position < m_first || position > ShownEnd())
         return {};
     const int left = static_cast<int>(std::floor(LeftOf(position)));
     if (position == ShownEnd())
-        return {left, 0, fontMetrics().horizontalAdvance(u'a'), height()};
+        return {left, 0, m_letterWidth, height()};
     // One pixel more where the character ends inside one.
     const int right = static_cast<int>(std::ceil(LeftOf(position + 1)));
-    return {std::min(left, right), 0, std::max(1, std::abs(right - left)), height()};
+    return {left, 0, std::max(1, right - left), height()};
 }
 
-/// Between the box's edge and the line of text.
-int TypingLine::CellMargin() const
+/// The character's place, as high as the text.
+QRect TypingLine::TextRect(int position)
 {
-    return qMax(0, (height() - fontMetrics().height()) / 2 - 1);
+    const int margin = qMax(0, (height() - m_ascent - m_descent) / 2 - 1);
+    return CellRect(position).adjusted(0, margin, 0, -margin);
 }
 
 QString TypingLine::ShownText()
 {
-    EnsureLayout();
-    return m_layout.text();
+    PlaceCharacters();
+    QString shown;
+    for (int i = m_first; i < ShownEnd(); ++i)
+        shown += CharacterGlyphs::DrawnForm(CharacterAt(i));
+    return shown;
 }
 
 void TypingLine::paintEvent(QPaintEvent *event)
 {
-    EnsureLayout();
+    PlaceCharacters();
     QPainter painter(this);
-    painter.fillRect(event->rect(), m_paper);
-    if (m_marked && m_position < Length()) {
-        painter.fillRect(CellRect(m_position).adjusted(0, CellMargin(), 0, -CellMargin()), m_lit);
+    const QRect exposed = event->rect();
+    painter.fillRect(exposed, m_paper);
+    int first = m_first;
+    while (first < ShownEnd() && LeftOf(first + 1) < exposed.left() - Overhang())
+        ++first;
+    int end = first;
+    for (; end < ShownEnd() && LeftOf(end) <= exposed.right() + Overhang(); ++end) {
+        if (LookAt(end) == Look::Wrong &&
+            CharacterGlyphs::IsBlank(CharacterAt(end))) // red ink would not show
+            painter.fillRect(TextRect(end), QColor(255, 190, 190));
     }
+    if (m_marked && m_position < Length())
+        painter.fillRect(TextRect(m_position), m_lit);
     if (m_caret && m_position >= 0) {
-        const QRect cell = CellRect(m_position).adjusted(0, CellMargin(), 0, -CellMargin());
+        const QRect cell = TextRect(m_position);
         painter.fillRect(cell.left(), cell.top(), LineCaretWidth, cell.height(), QColor(40, 46, 58));
     }
-    if (m_layout.lineCount() == 0)
+    if (exposed.width() > 1 && exposed != rect()) {
+        m_painted = exposed;
+        m_settle.start(SettleTime, this);
+    }
+    const qreal baseline = std::round((height() + m_ascent - m_descent) / 2.0);
+    std::optional<Look> ink;
+    for (int i = first; i < end; ++i) {
+        if (std::exchange(ink, LookAt(i)) != LookAt(i))
+            painter.setPen(InkOf(LookAt(i)));
+        m_glyphs->Draw(painter, QPointF(LeftOf(i), baseline), CharacterAt(i));
+    }
+}
+
+/// Before a place is painted again it is waited for until the display has read from memory what was painted
+/// there before. Painting one pixel of it between two keys, one that the next key leaves alone, takes that
+/// wait out of the answer to a key.
+void TypingLine::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_settle.timerId()) {
+        QWidget::timerEvent(event);
         return;
-    const QFontMetricsF metrics(font());
-    const qreal baseline = std::round((height() + metrics.ascent() - metrics.descent()) / 2);
-    m_layout.draw(&painter, QPointF(SidePadding, baseline - m_layout.lineAt(0).ascent()), {}, event->rect());
+    }
+    m_settle.stop();
+    update(QRect(m_painted.topLeft(), QSize(1, 1)));
 }
 
 void TypingLine::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::FontChange) {
-        m_stale = true;
-        update();
-    }
+    if (event->type() == QEvent::FontChange)
+        TakeFont();
     QWidget::changeEvent(event);
 }

@@ -1,13 +1,16 @@
 #pragma once
 
-#include <QTextLayout>
+#include <QBasicTimer>
 #include <QWidget>
+#include <memory>
 #include <string>
 #include <vector>
 
+class CharacterGlyphs;
+
 /// One line of text that is typed, or typed over, character by character. It repaints only what a key
-/// changes. A line wider than the box shows the part around the typing position, and only that part is laid
-/// out: a line of any length costs no more per key than a short one.
+/// changes. A line wider than the box shows the part around the typing position, and only that part is
+/// placed: a line of any length costs no more per key than a short one.
 ///
 /// Positions count characters, one outside the basic plane being one.
 class TypingLine final : public QWidget
@@ -43,23 +46,27 @@ public:
     /// The lit position, or -1.
     int Mark() const { return m_marked ? m_position : -1; }
     /// Where a character stands in the widget, as high as it; at Length() the empty place behind the last
-    /// one. Null for what is not laid out.
+    /// one. Null for what is not placed.
     QRect CellRect(int position);
-    /// The part that is laid out, as it is shown.
+    /// The part that is placed, as it is shown.
     QString ShownText();
-    /// How many characters were laid out since the widget was made.
-    qint64 LaidOutSoFar() const { return m_laidOutSoFar; }
+    /// How many characters were placed since the widget was made.
+    qint64 PlacedSoFar() const { return m_placedSoFar; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
 
 private:
-    void EnsureLayout();
-    QList<QTextLayout::FormatRange> Colours() const;
-    int ShownEnd() const { return m_first + static_cast<int>(m_offsets.size()) - 1; }
-    qreal LeftOf(int position) const;
-    int CellMargin() const;
+    void TakeFont();
+    void PlaceCharacters();
+    void PlaceAdded();
+    char32_t CharacterAt(int position) const { return m_text[static_cast<std::size_t>(position)]; }
+    int ShownEnd() const { return m_first + static_cast<int>(m_lefts.size()) - 1; }
+    /// Of a shown character, or of the end of the shown part.
+    qreal LeftOf(int position) const { return m_lefts[static_cast<std::size_t>(position - m_first)]; }
+    QRect TextRect(int position);
     int Overhang() const;
     void UpdateCells(const QRect &cells);
     void UpdateFrom(int left);
@@ -72,11 +79,16 @@ private:
     bool m_marked = false;
     bool m_caret = false;
 
-    QTextLayout m_layout;
-    int m_first = 0;            ///< the first character that is laid out
-    std::vector<int> m_offsets; ///< of the characters in the layout's text, and of its end
+    std::shared_ptr<CharacterGlyphs> m_glyphs;
+    int m_letterWidth = 0;
+    int m_ascent = 0;
+    int m_descent = 0;
+    int m_first = 0;               ///< the first character that is placed
+    std::vector<qreal> m_lefts{0}; ///< left ends of the placed characters, and the right end of the last one
     bool m_stale = true;
-    qint64 m_laidOutSoFar = 0;
+    qint64 m_placedSoFar = 0;
+    QRect m_painted;      ///< by the last key
+    QBasicTimer m_settle; ///< runs out when the display has shown it
     QColor m_paper;
     QColor m_lit;
 };

@@ -1,20 +1,15 @@
 #include "platform/SingleInstance.h"
 
 #include "platform/SessionLock.h"
+#include "platform/SessionSocket.h"
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QLocalServer>
-#include <QLocalSocket>
-#include <QStandardPaths>
 #include <QThread>
-#include <utility>
-
-#ifdef Q_OS_UNIX
 #include <unistd.h>
-#endif
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,33 +36,30 @@ bool IsWritableFolder(const QString &path)
     return !path.isEmpty() && folder.isDir() && folder.isWritable();
 }
 
+/// Whether only this person can write there, and so nobody else put a lock or a socket in it.
+bool IsOwnFolder(const QString &path)
+{
+    const QFileInfo folder(path);
+    const QFile::Permissions others = QFile::WriteGroup | QFile::WriteOther;
+    return IsWritableFolder(path) && folder.ownerId() == geteuid() && !(folder.permissions() & others);
+}
+
 /// A folder in the one for temporary files that only this person can enter, or an empty text when somebody
 /// else has taken its name.
 QString PrivateTemporaryFolder()
 {
-#ifdef Q_OS_UNIX
     const QString path = QDir::tempPath() + u"/quorvex-"_s + QString::number(geteuid());
     QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    const QFileInfo folder(path);
-    const QFile::Permissions others = QFile::WriteGroup | QFile::WriteOther;
-    const bool own = !folder.isSymLink() && folder.ownerId() == geteuid() && !(folder.permissions() & others);
-    return own && IsWritableFolder(path) ? path : QString();
-#else
-    return QDir::tempPath(); // each person's own there
-#endif
+    return !QFileInfo(path).isSymLink() && IsOwnFolder(path) ? path : QString();
 }
 
 } // namespace
 
 QString SingleInstance::DefaultRuntimeFolder()
 {
-#ifdef Q_OS_UNIX
     // Asking Qt without it would make and report a folder of its own.
     const QString session = qEnvironmentVariable("XDG_RUNTIME_DIR");
-#else
-    const QString session = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-#endif
-    return IsWritableFolder(session) ? session : PrivateTemporaryFolder();
+    return IsOwnFolder(session) ? session : PrivateTemporaryFolder();
 }
 
 SingleInstance::SingleInstance(const QString &runtimeFolder)
@@ -75,11 +67,7 @@ SingleInstance::SingleInstance(const QString &runtimeFolder)
     if (!IsWritableFolder(runtimeFolder))
         return;
     const QString name = u"quorvex-"_s + QString::fromLatin1(SessionKey());
-#ifdef Q_OS_WIN
-    m_serverName = name;
-#else
-    m_serverName = QDir(runtimeFolder).absoluteFilePath(name + u".socket"_s);
-#endif
+    m_socketPath = QDir(runtimeFolder).absoluteFilePath(name + u".socket"_s);
     m_lock = std::make_unique<SessionLock>(QDir(runtimeFolder).absoluteFilePath(name + u".lock"_s));
 
     // The first copy may have the lock and not listen yet, or not listen any more and end: try both again.
@@ -96,49 +84,27 @@ SingleInstance::SingleInstance(const QString &runtimeFolder)
 
 SingleInstance::~SingleInstance() = default;
 
-bool SingleInstance::AskFirst()
+bool SingleInstance::AskFirst() const
 {
-    QLocalSocket socket;
-    socket.connectToServer(m_serverName);
-    if (!socket.waitForConnected(patience))
-        return false;
     // Some desktops let a window come forward only with the token that this start was given.
-    socket.write("raise " + qgetenv(activationVariable) + '\n');
-    socket.flush();
-    socket.disconnectFromServer();
-    if (socket.state() != QLocalSocket::UnconnectedState)
-        socket.waitForDisconnected(patience);
-    return true;
+    return SessionSocket::Send(m_socketPath, "raise " + qgetenv(activationVariable) + '\n');
 }
 
-void SingleInstance::ReceiveRequest()
+void SingleInstance::Answer(const QByteArray &request) const
 {
-    while (QLocalSocket *const socket = m_server->nextPendingConnection()) {
-        const auto finish = [this, socket] {
-            const QByteArray request = socket->readAll().trimmed();
-            socket->deleteLater();
-            if (!request.startsWith("raise"))
-                return;
-            if (const QByteArray token = request.mid(6); !token.isEmpty())
-                qputenv(activationVariable, token);
-            m_comeForward();
-        };
-        if (socket->state() == QLocalSocket::UnconnectedState)
-            finish();
-        else
-            QObject::connect(socket, &QLocalSocket::disconnected, m_server.get(), finish);
-    }
+    if (!request.startsWith("raise"))
+        return;
+    if (const QByteArray token = request.trimmed().mid(6); !token.isEmpty())
+        qputenv(activationVariable, token);
+    m_comeForward();
 }
 
 void SingleInstance::SetOnSecondStart(std::function<void()> comeForward)
 {
     m_comeForward = std::move(comeForward);
-    if (!m_first || m_server || m_serverName.isEmpty())
+    if (!m_first || m_socket || m_socketPath.isEmpty())
         return;
-    m_server = std::make_unique<QLocalServer>();
-    m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    QLocalServer::removeServer(m_serverName); // of a copy that crashed; the lock says that none is alive
-    QObject::connect(m_server.get(), &QLocalServer::newConnection, m_server.get(),
-                     [this] { ReceiveRequest(); });
-    m_server->listen(m_serverName); // without it a second copy still ends, only nothing comes forward
+    // Where it does not listen a second copy still ends, only nothing comes forward.
+    m_socket =
+        std::make_unique<SessionSocket>(m_socketPath, [this](const QByteArray &request) { Answer(request); });
 }

@@ -5,8 +5,8 @@
 #include <functional>
 #include <memory>
 
-class QLocalServer;
 class SessionLock;
+class SessionSocket;
 
 /// Lets one copy of the program run for each person and display, whatever folder it was started from. A
 /// second copy asks the first to come forward and is to end at once. A copy that crashed or was killed leaves
@@ -15,7 +15,7 @@ class SingleInstance
 {
 public:
     /// `runtimeFolder` is where the lock and the socket lie: the desktop session's folder for such things, or
-    /// a private one in the folder for temporary files where there is none that can be written.
+    /// a private one in the folder for temporary files where there is none that only this person can write.
     explicit SingleInstance(const QString &runtimeFolder = DefaultRuntimeFolder());
     ~SingleInstance();
     Q_DISABLE_COPY_MOVE(SingleInstance)
@@ -30,12 +30,12 @@ public:
     static QString DefaultRuntimeFolder();
 
 private:
-    bool AskFirst();
-    void ReceiveRequest();
+    bool AskFirst() const;
+    void Answer(const QByteArray &request) const;
 
-    QString m_serverName;
+    QString m_socketPath;
     std::unique_ptr<SessionLock> m_lock;
-    std::unique_ptr<QLocalServer> m_server;
     std::function<void()> m_comeForward;
+    std::unique_ptr<SessionSocket> m_socket;
     bool m_first = true;
 };

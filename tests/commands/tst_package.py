@@ -19,7 +19,8 @@ class Package(unittest.TestCase):
         return os.path.join(self.root, *names)
 
     def test_program_folder_holds_nothing_that_people_change(self):
-        self.assertEqual(sorted(os.listdir(self.path("opt/quorvex"))), ["Fonts", "Quorvex", "Quorvex.chm", "user.ini"])
+        self.assertEqual(sorted(os.listdir(self.path("opt/quorvex"))),
+                         ["Fonts", "Quorvex", "Quorvex.chm", "libquorvex_print.so", "user.ini"])
         self.assertEqual(os.readlink(self.path("opt/quorvex/user.ini")), "List/user.ini")
 
     def test_originals_are_all_listed(self):

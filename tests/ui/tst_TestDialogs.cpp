@@ -16,7 +16,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPrinter>
 #include <QTest>
 #include <QToolTip>
 
@@ -135,6 +134,11 @@ private Q_SLOTS:
               Row{"optFile1", PrintOutcome::NoPrinter,
                   u"data\\Appendix\\Science.txt ? Science.txt|text of 文 "
                   "There is no default printer, so \"Science.txt\" is not printed."_s},
+              Row{"optFile1", PrintOutcome::NoModule,
+                  u"data\\Appendix\\Science.txt ? Science.txt|text of 文 "
+                  "The part of Quorvex that prints is missing or damaged, "
+                  "so \"Science.txt\" is not printed: "_s +
+                      m_install->Native(u"libquorvex_print.so"_s)},
               Row{"optFile2", yes,
                   u"data\\Appendix\\Christmas.txt ? "
                   "The file \"Christmas.txt\" cannot be read, so it is not printed."_s}}) {
@@ -159,9 +163,17 @@ private Q_SLOTS:
 
     void LaysATextOutInPages()
     {
-        QPrinter printer;
-        printer.setOutputFileName(m_install->Native(u"out.pdf"_s));
-        QVERIFY(Public_Function::PrintOn(printer, u"One line of text\n"_s.repeated(150), u"lunch"_s));
+        const QString module = m_install->Native(u"libquorvex_print.so"_s);
+        const auto print = [this] {
+            return Public_Function::PrintToFile(u"One line of text\n"_s.repeated(150), u"lunch"_s,
+                                                m_install->Native(u"out.pdf"_s));
+        };
+        QCOMPARE(print(), PrintOutcome::NoModule);
+        m_install->Write(u"libquorvex_print.so"_s, "damaged");
+        QCOMPARE(print(), PrintOutcome::NoModule);
+        QVERIFY(QFile::remove(module));
+        QVERIFY(QFile::link(qEnvironmentVariable("QUORVEX_INSTALL") + u"/libquorvex_print.so"_s, module));
+        QCOMPARE(print(), PrintOutcome::Printed);
         QVERIFY(m_install->Read(u"out.pdf"_s).count("/Type /Page\n") >= 3);
     }
 

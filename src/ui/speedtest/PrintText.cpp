@@ -1,10 +1,10 @@
 #include "ui/speedtest/PrintText.h"
 
+#include "core/shell/Public_Define.h"
+#include "platform/Paths.h"
 #include "ui/skin/Fonts.h"
 
-#include <QPrinter>
-#include <QPrinterInfo>
-#include <QTextDocument>
+#include <QLibrary>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,29 +26,25 @@ void Public_Function::SetTextPrinter(
     TextPrinter() = std::move(printer);
 }
 
-bool Public_Function::PrintOn(QPrinter &printer, const QString &text, const QString &title)
+QString Public_Function::PrintModulePath()
 {
-    printer.setDocName(title);
-    QTextDocument document;
+    return NativePath(Shared().InstallDir + "libquorvex_print.so"_L1);
+}
+
+Public_Function::PrintOutcome Public_Function::PrintToFile(const QString &text, const QString &title,
+                                                           const QString &nativePath)
+{
+    QLibrary module(PrintModulePath());
+    const auto print = reinterpret_cast<decltype(&QuorvexPrint)>(module.resolve("QuorvexPrint"));
+    if (!print)
+        return PrintOutcome::NoModule;
     QFont font = InterfaceFont(PrintedPoints);
     // Pixels are those of a screen; on paper the size is in points.
     font.setPointSizeF(PrintedPoints);
-    document.setDefaultFont(font);
-    document.setPlainText(text);
-    document.print(&printer);
-    return printer.printerState() != QPrinter::Error && printer.printerState() != QPrinter::Aborted;
+    return print(text, title, font, nativePath);
 }
 
 Public_Function::PrintOutcome Public_Function::PrintText(const QString &text, const QString &title)
 {
-    if (TextPrinter())
-        return TextPrinter()(text, title);
-    // Without a default printer a printer object looks usable, and what is printed on it is lost.
-    const QString name = QPrinterInfo::defaultPrinterName();
-    if (name.isEmpty())
-        return PrintOutcome::NoPrinter;
-    QPrinter printer(QPrinterInfo::printerInfo(name), QPrinter::HighResolution);
-    if (!printer.isValid() || printer.outputFormat() != QPrinter::NativeFormat)
-        return PrintOutcome::Failed;
-    return PrintOn(printer, text, title) ? PrintOutcome::Printed : PrintOutcome::Failed;
+    return TextPrinter() ? TextPrinter()(text, title) : PrintToFile(text, title, QString());
 }

@@ -1,20 +1,20 @@
 #pragma once
 
-#include <QString>
-#include <functional>
+#include "print/PrintModule.h"
 
-class QPrinter;
+#include <functional>
 
 namespace Public_Function {
 
-enum class PrintOutcome { Printed, NoPrinter, Failed };
-
-/// Prints a plain text on the default printer. The printing system is asked for a printer only here: one that
-/// does not answer must not hold up anything else.
+/// Prints a plain text on the default printer. The printing system is loaded and asked for a printer only
+/// here: one that does not answer must not hold up anything else.
 PrintOutcome PrintText(const QString &text, const QString &title);
 
-/// Lays the text out in pages and sends it to that printer. False when the printer does not take it.
-bool PrintOn(QPrinter &printer, const QString &text, const QString &title);
+/// The same, as a PDF into the file with this native path; empty: on the default printer.
+PrintOutcome PrintToFile(const QString &text, const QString &title, const QString &nativePath);
+
+/// Where the library that prints is looked for.
+QString PrintModulePath();
 
 /// Takes what would be printed, for tests; empty: the printer gets it.
 void SetTextPrinter(std::function<PrintOutcome(const QString &text, const QString &title)> printer);

@@ -1,4 +1,5 @@
 #include "support/KeyDrillTest.h"
+#include "ui/widgets/HeldGround.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -147,6 +148,23 @@ private Q_SLOTS:
         const QWidget *keyboard = Part("CXKeyBoard1");
         QVERIFY(m_painted[keyboard] < keyboard->width() * keyboard->height() / 12);
         QVERIFY(m_painted[m_window] < m_window->width() * m_window->height() / 16);
+    }
+
+    void StandsOnThePictureOfTheWindow()
+    {
+        Open();
+        QImage ground(m_window->size(), QImage::Format_RGB32);
+        m_window->render(&ground, {}, {}, QWidget::RenderFlags());
+        for (const bool renewed : {false, true}) {
+            const QImage shown = m_window->grab().toImage();
+            for (const auto &name :
+                 {"labTime", "labPromptMsg", "picProgress", "CXKeyBoard1", "picActivateFinger"}) {
+                const QPoint corner = Part(name)->geometry().topRight();
+                QCOMPARE(shown.pixelColor(corner), ground.pixelColor(corner));
+            }
+            if (!renewed)
+                HeldGround::RenewAll();
+        }
     }
 
 private:

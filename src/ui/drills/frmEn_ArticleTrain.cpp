@@ -55,7 +55,7 @@ void frmEn_ArticleTrain::ShowForm(DisplayForm form)
     m_page.Build(form, Layout());
     m_session.GoOnIn(form, m_page.Measure());
     m_page.ShowAll(m_session);
-    update();
+    RepaintGround();
 }
 
 bool frmEn_ArticleTrain::InitArticleData(const QString &fileName)

@@ -8,12 +8,14 @@
 #include "ui/widgets/KeyHint.h"
 #include "ui/widgets/ProgressBox.h"
 #include "ui/widgets/SkinButton.h"
+#include "ui/widgets/StatusLabel.h"
 
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QTimer>
+#include <QTimerEvent>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,6 +23,7 @@ namespace {
 
 constexpr int StatusInterval = 500; // milliseconds
 constexpr int TitleZone = 40;       // the title is printed above this line
+constexpr int GroundKept = 3000;    // milliseconds
 
 } // namespace
 
@@ -80,7 +83,7 @@ int PracticeWindow::AreaWidth() const
 
 QLabel *PracticeWindow::AddLabel(const QString &objectName, const QString &name)
 {
-    auto *label = new QLabel(this);
+    auto *label = new StatusLabel(this);
     label->setObjectName(objectName);
     label->setAccessibleName(name);
     label->setTextFormat(Qt::PlainText);
@@ -200,4 +203,24 @@ void PracticeWindow::paintEvent(QPaintEvent *event)
     if (event->rect().top() < TitleZone)
         Public_Function::DrawWindowTitle(painter, Public_Function::ScreenMode(), m_title);
     Public_Function::DrawWindowEdge(painter, size());
+    m_groundTimer.start(GroundKept, this);
+}
+
+/// What changes while people type has its own ground: the pictures below, megabytes of them, are decoded
+/// again when they are needed. So is the menu's, which this window hides.
+void PracticeWindow::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_groundTimer.timerId()) {
+        QDialog::timerEvent(event);
+        return;
+    }
+    m_groundTimer.stop();
+    SkinLibrary().LetGo(Public_Function::DrillWindowPictures(SkinKind()) << u"MAIN_BACK"_s,
+                        devicePixelRatioF());
+}
+
+void PracticeWindow::RepaintGround()
+{
+    HeldGround::RenewAll();
+    update();
 }

@@ -3,6 +3,7 @@
 #include "core/drills/DrillLayout.h"
 #include "ui/shell/Navigator.h"
 
+#include <QBasicTimer>
 #include <QDialog>
 #include <QList>
 
@@ -45,6 +46,8 @@ protected:
     void ShowLessonTitle(const QString &title);
     void ShowHint(const QString &text);
     void MinimizeProgram();
+    /// Paints all anew after SkinKind has changed.
+    void RepaintGround();
 
     /// The kind of PaintDrillWindow.
     virtual int SkinKind() const = 0;
@@ -58,6 +61,7 @@ protected:
 
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
     bool focusNextPrevChild(bool) override { return false; }
 
     QTimer *StatusTimer;
@@ -76,6 +80,7 @@ private:
     DrillLayout m_layout;
     QList<QPoint> m_anchors; ///< of the pictures that PaintDrillWindow puts down
     QString m_title;
+    QBasicTimer m_groundTimer; ///< runs out when the window's own pictures have not been needed for a while
 
     SkinButton *BtnHelp;
     SkinButton *btnMiniMize;

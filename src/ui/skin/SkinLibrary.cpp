@@ -153,6 +153,20 @@ QPixmap SkinLibrary::Drawn(const QString &name, qreal devicePixelRatio) const
     return pixmap;
 }
 
+QString SkinLibrary::FrameKey(const QString &strip, int frame, int frames, qreal devicePixelRatio) const
+{
+    return u"%1%2/%3/%4@%5"_s.arg(m_keyPrefix, strip, QString::number(frame), QString::number(frames),
+                                  QString::number(devicePixelRatio));
+}
+
+void SkinLibrary::LetGo(const QStringList &names, qreal devicePixelRatio) const
+{
+    for (const QString &name : names) {
+        QPixmapCache::remove(PictureKey(name, ScaleFor(devicePixelRatio)));
+        QPixmapCache::remove(FrameKey(name, 0, 1, devicePixelRatio));
+    }
+}
+
 QPixmap SkinLibrary::Bitmap(const QString &name, qreal devicePixelRatio) const
 {
     return Frame(name, 0, 1, devicePixelRatio);
@@ -163,8 +177,7 @@ QPixmap SkinLibrary::Frame(const QString &strip, int frame, int frames, qreal de
     const bool isFitted = devicePixelRatio != 1.0 && devicePixelRatio != 2.0;
     if (!isFitted && frames == 1)
         return Drawn(strip, devicePixelRatio);
-    const QString key = u"%1%2/%3/%4@%5"_s.arg(m_keyPrefix, strip, QString::number(frame),
-                                               QString::number(frames), QString::number(devicePixelRatio));
+    const QString key = FrameKey(strip, frame, frames, devicePixelRatio);
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap))
         return pixmap;

@@ -33,6 +33,9 @@ public:
     /// screen of that ratio. Who asks for one of them before it is ready waits for it.
     static void DecodeAhead(const QStringList &names, qreal devicePixelRatio);
 
+    /// Takes pictures out of the pixmap cache. They are decoded again when they are asked for.
+    void LetGo(const QStringList &names, qreal devicePixelRatio) const;
+
     /// False when the library is missing or cannot be read.
     bool IsUsable() const;
 
@@ -42,6 +45,7 @@ private:
     /// The open file, kept for those who also paint in this turn of the event loop.
     const SqliteFile &File() const;
     QString PictureKey(const QString &name, int scale) const;
+    QString FrameKey(const QString &strip, int frame, int frames, qreal devicePixelRatio) const;
 
     QString m_path;
     QString m_keyPrefix;

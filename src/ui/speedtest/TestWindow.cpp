@@ -190,7 +190,7 @@ void TestWindow::ShowSource()
     SetTitle(u"Speed Test \\ "_s + GetModeName());
     for (std::size_t tab = 0; tab < m_tabs.size(); ++tab)
         m_tabs[tab]->SetOwn(static_cast<Source>(tab) == CurrentSource());
-    update();
+    RepaintGround();
 }
 
 void TestWindow::BuildPage()
@@ -199,7 +199,7 @@ void TestWindow::BuildPage()
     rtfCursor->setFont(m_page.Input(0)->font());
     rtfCursor->raise();
     FollowEngine();
-    update();
+    RepaintGround();
 }
 
 void TestWindow::FollowEngine()

@@ -10,6 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 HandsPicture::HandsPicture(QWidget *parent)
     : QWidget(parent)
+    , m_unlit(this, [this](QPainter &painter) { PaintUnlit(painter); })
 {
     Public_Function::SetAccessibleRole(this, QAccessible::Graphic);
     setObjectName(u"picActivateFinger"_s);
@@ -21,6 +22,7 @@ void HandsPicture::SetBaseOffset(int baseOffset)
 {
     m_baseOffset = baseOffset;
     resize(sizeHint());
+    m_unlit.Renew();
     update();
 }
 
@@ -46,13 +48,19 @@ QRect HandsPicture::StripRect() const
     return {m_strip.offset - m_baseOffset, 0, m_strip.width, height()};
 }
 
+void HandsPicture::PaintUnlit(QPainter &painter)
+{
+    m_plain.Draw(painter, {}, rect().translated(m_baseOffset, 0));
+    m_plain.LetGo();
+}
+
 void HandsPicture::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     const QPoint base(m_baseOffset, 0);
     for (const QRect &exposed : event->region()) {
         painter.setClipRect(exposed); // copied fast only through a clip that is one rectangle
-        m_plain.Draw(painter, exposed.topLeft(), exposed.translated(base));
+        m_unlit.Paint(painter, exposed);
         const QRect lit = exposed & StripRect();
         if (!lit.isEmpty() && !m_lit.Draw(painter, lit.topLeft(), lit.translated(base)))
             painter.fillRect(lit, QColor(255, 164, 84));

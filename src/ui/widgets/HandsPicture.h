@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drills/FingerTable.h"
+#include "ui/widgets/HeldGround.h"
 #include "ui/widgets/HeldPicture.h"
 
 #include <QWidget>
@@ -28,9 +29,11 @@ protected:
 
 private:
     QRect StripRect() const;
+    void PaintUnlit(QPainter &painter);
 
     FingerStrip m_strip;
     int m_baseOffset = 0;
+    HeldGround m_unlit;
     HeldPicture m_plain{QStringLiteral("HAND_CLEAR")};
     HeldPicture m_lit{QStringLiteral("HAND_ON")};
 };

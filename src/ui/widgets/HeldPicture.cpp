@@ -3,6 +3,7 @@
 #include "ui/skin/SkinLibrary.h"
 
 #include <QPainter>
+#include <utility>
 
 void HeldPicture::SetName(const QString &name)
 {
@@ -17,6 +18,12 @@ const QPixmap &HeldPicture::For(qreal devicePixelRatio)
         m_pixmap = SkinLibrary().Bitmap(m_name, devicePixelRatio);
     }
     return m_pixmap;
+}
+
+void HeldPicture::LetGo()
+{
+    m_pixmap = {};
+    SkinLibrary().LetGo({m_name}, std::exchange(m_ratio, 0));
 }
 
 bool HeldPicture::Draw(QPainter &painter, const QPoint &target, const QRect &source)

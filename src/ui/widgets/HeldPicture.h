@@ -18,6 +18,9 @@ public:
     /// Null when the skin has no such picture.
     const QPixmap &For(qreal devicePixelRatio);
 
+    /// Keeps it no longer, here and in the pixmap cache, until it is asked for again.
+    void LetGo();
+
     /// Copies the part of the picture that lies at `source` (logical pixels) to `target`'s top left corner.
     /// False when there is no picture.
     bool Draw(class QPainter &painter, const QPoint &target, const QRect &source);

@@ -13,6 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 OnScreenKeys::OnScreenKeys(const QString &objectName, const QString &accessibleName, QWidget *parent)
     : QWidget(parent)
+    , m_unlit(this, [this](QPainter &painter) { PaintUnlit(painter); })
 {
     Public_Function::SetAccessibleRole(this, QAccessible::Graphic);
     setObjectName(objectName);
@@ -25,6 +26,7 @@ void OnScreenKeys::SetPictures(const Pictures &names)
     m_normalPicture.SetName(names.normal);
     m_promptPicture.SetName(names.prompt);
     m_pressedPicture.SetName(names.pressed);
+    m_unlit.Renew();
     update();
 }
 
@@ -157,22 +159,26 @@ void OnScreenKeys::DescribeState()
 void OnScreenKeys::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    const bool skinned = !m_normalPicture.For(devicePixelRatioF()).isNull();
     for (const QRect &exposed : event->region()) {
         painter.setClipRect(exposed); // copied fast only through a clip that is one rectangle
-        if (skinned)
-            m_normalPicture.Draw(painter, exposed.topLeft(), exposed);
+        m_unlit.Paint(painter, exposed);
         for (int key = 0; key < KeyCount(); ++key) {
             const QRect rect = KeyRect(key);
             if (exposed.intersects(rect))
-                PaintKey(painter, key, rect, skinned);
+                PaintKey(painter, key, rect);
         }
     }
 }
 
-void OnScreenKeys::PaintKey(QPainter &painter, int key, const QRect &rect, bool skinned)
+void OnScreenKeys::PaintUnlit(QPainter &painter)
 {
-    if (!skinned)
+    m_skinned = m_normalPicture.Draw(painter, {}, rect());
+    m_normalPicture.LetGo();
+}
+
+void OnScreenKeys::PaintKey(QPainter &painter, int key, const QRect &rect)
+{
+    if (!m_skinned)
         PaintPlainKey(painter, key);
     else if (IsPressed(key))
         m_pressedPicture.Draw(painter, rect.topLeft(), rect);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drills/AnsiKeyboard.h"
+#include "ui/widgets/HeldGround.h"
 #include "ui/widgets/HeldPicture.h"
 #include "ui/widgets/KeyStroke.h"
 
@@ -76,7 +77,8 @@ private:
     void ShowChanges();
     void UpdatePrompt();
     void DescribeState();
-    void PaintKey(QPainter &painter, int key, const QRect &rect, bool skinned);
+    void PaintUnlit(QPainter &painter);
+    void PaintKey(QPainter &painter, int key, const QRect &rect);
     void PaintPlainKey(QPainter &painter, int key) const;
 
     std::optional<char32_t> m_promptCharacter;
@@ -93,6 +95,8 @@ private:
     };
     std::optional<Outcome> m_outcome;
 
+    HeldGround m_unlit; ///< with all keys as they are when nothing is lit or sunk
+    bool m_skinned = false;
     HeldPicture m_normalPicture;
     HeldPicture m_promptPicture;
     HeldPicture m_pressedPicture;

@@ -39,17 +39,13 @@ void ProgressBox::SetPercent(int percent)
 void ProgressBox::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const SkinLibrary library;
-    const qreal ratio = devicePixelRatioF();
-    const QPixmap empty = library.Bitmap(u"PROGRESSBAR_BLUE"_s, ratio);
-    const QPixmap full = library.Bitmap(u"PROGRESSBAR_GREEN"_s, ratio);
-    if (empty.isNull() || full.isNull()) {
+    m_ground.Paint(painter, rect());
+    const int filled = m_percent * width() / 100;
+    if (m_full.For(devicePixelRatioF()).isNull() || !m_empty.Draw(painter, {}, rect())) {
         painter.fillRect(rect(), QColor(205, 211, 222));
-        painter.fillRect(0, 0, m_percent * width() / 100, height(), QColor(92, 172, 96));
+        painter.fillRect(0, 0, filled, height(), QColor(92, 172, 96));
         return;
     }
-    painter.drawPixmap(0, 0, empty);
-    const int filled = m_percent * library.BitmapSize(u"PROGRESSBAR_GREEN"_s).width() / 100;
     painter.setClipRect(0, 0, filled, height());
-    painter.drawPixmap(0, 0, full);
+    m_full.Draw(painter, {}, rect());
 }

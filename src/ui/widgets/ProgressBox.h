@@ -1,5 +1,8 @@
 #pragma once
 
+#include "ui/widgets/HeldGround.h"
+#include "ui/widgets/HeldPicture.h"
+
 #include <QWidget>
 
 /// The progress bar picture: the empty bar with the filled part over it. Its size is the picture's.
@@ -19,4 +22,7 @@ protected:
 
 private:
     int m_percent = 0;
+    HeldGround m_ground{this};
+    HeldPicture m_empty{QStringLiteral("PROGRESSBAR_BLUE")};
+    HeldPicture m_full{QStringLiteral("PROGRESSBAR_GREEN")};
 };

@@ -18,7 +18,7 @@
 #include "ui/skin/StatusTexts.h"
 
 #include <QApplication>
-#include <QIcon>
+#include <QPixmap>
 #include <QPixmapCache>
 #include <QScreen>
 
@@ -88,11 +88,12 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(QUORVEX_VERSION));
     QGuiApplication::setDesktopFileName(u"quorvex"_s); // by which a desktop knows whose windows these are
     DBusInputMethod inputMethod;
-    const std::future<void> fontSettings = Public_Function::ReadFontSettingsAhead();
     inputMethod.ChooseRunning(InputMethodPatience);
+    const std::future<void> fontSettings = Public_Function::ReadFontSettingsAhead();
     const std::unique_ptr<QApplication> application = MakeApplication(argc, argv);
 
-    QApplication::setWindowIcon(QIcon(u":/message/APP_ICON.png"_s));
+    // Its format said, no decoder of other formats is loaded to look at it.
+    QApplication::setWindowIcon(QPixmap(u":/message/APP_ICON.png"_s, "PNG"));
     SingleInstance instance;
     if (!instance.IsFirst())
         return 0;

@@ -1,6 +1,7 @@
 #include "ui/shell/PracticeWindow.h"
 
 #include "core/shell/Public_Define.h"
+#include "platform/FreeMemory.h"
 #include "ui/skin/Fonts.h"
 #include "ui/skin/SkinLibrary.h"
 #include "ui/skin/StatusTexts.h"
@@ -14,6 +15,7 @@
 #include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QTimer>
 #include <QTimerEvent>
 
@@ -206,8 +208,8 @@ void PracticeWindow::paintEvent(QPaintEvent *event)
     m_groundTimer.start(GroundKept, this);
 }
 
-/// What changes while people type has its own ground: the pictures below, megabytes of them, are decoded
-/// again when they are needed. So is the menu's, which this window hides.
+/// What changes while people type keeps what it needs. The other pictures, megabytes of them, also those of
+/// the menu that this window hides, are decoded again when they are needed.
 void PracticeWindow::timerEvent(QTimerEvent *event)
 {
     if (event->timerId() != m_groundTimer.timerId()) {
@@ -215,8 +217,8 @@ void PracticeWindow::timerEvent(QTimerEvent *event)
         return;
     }
     m_groundTimer.stop();
-    SkinLibrary().LetGo(Public_Function::DrillWindowPictures(SkinKind()) << u"MAIN_BACK"_s,
-                        devicePixelRatioF());
+    QPixmapCache::clear();
+    Public_Function::GiveBackFreeMemory();
 }
 
 void PracticeWindow::RepaintGround()

@@ -80,7 +80,7 @@ private:
     DrillLayout m_layout;
     QList<QPoint> m_anchors; ///< of the pictures that PaintDrillWindow puts down
     QString m_title;
-    QBasicTimer m_groundTimer; ///< runs out when the window's own pictures have not been needed for a while
+    QBasicTimer m_groundTimer; ///< runs out when the window's pictures have not been needed for a while
 
     SkinButton *BtnHelp;
     SkinButton *btnMiniMize;

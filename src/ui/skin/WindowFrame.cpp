@@ -113,14 +113,6 @@ void Public_Function::TileMainGround(QPainter &painter, const QRect &rect, const
     }
 }
 
-QStringList Public_Function::DrillWindowPictures(int kind)
-{
-    if (kind < 0 || kind >= static_cast<int>(Modules.size()))
-        return {};
-    const ModulePictures &module = Modules[static_cast<std::size_t>(kind)];
-    return {module.label, module.background};
-}
-
 void Public_Function::PaintDrillWindow(int kind, QPainter &painter, const QRegion &exposed,
                                        const QList<QPoint> &positions)
 {

@@ -33,9 +33,6 @@ inline constexpr QColor PlainGround{52, 66, 92};
 /// The kind of the placement test, which has no tabs to lead elsewhere.
 inline constexpr int PlacementTestKind = 24;
 
-/// The large pictures of PaintDrillWindow, which are not worth keeping while nothing below the text changes.
-QStringList DrillWindowPictures(int kind);
-
 /// Paints what lies in `exposed` of a drill or test window: the tiled ground, the module label and background
 /// of `kind` (0 to 24) at positions 0 and 1, and the four status icons at positions 2 to 5.
 void PaintDrillWindow(int kind, QPainter &painter, const QRegion &exposed, const QList<QPoint> &positions);

@@ -1,15 +1,23 @@
 #include "ui/widgets/OnScreenKeys.h"
 
 #include "core/drills/KeyDrillSession.h"
+#include "platform/FreeMemory.h"
 #include "ui/skin/Fonts.h"
 #include "ui/widgets/PaintedAccess.h"
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTimerEvent>
 #include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int PictureKept = 3000; // milliseconds
+
+} // namespace
 
 OnScreenKeys::OnScreenKeys(const QString &objectName, const QString &accessibleName, QWidget *parent)
     : QWidget(parent)
@@ -24,8 +32,8 @@ OnScreenKeys::OnScreenKeys(const QString &objectName, const QString &accessibleN
 void OnScreenKeys::SetPictures(const Pictures &names)
 {
     m_normalPicture.SetName(names.normal);
-    m_promptPicture.SetName(names.prompt);
-    m_pressedPicture.SetName(names.pressed);
+    m_prompted = {HeldPicture(names.prompt), {}};
+    m_pressed = {HeldPicture(names.pressed), {}};
     m_unlit.Renew();
     update();
 }
@@ -181,9 +189,36 @@ void OnScreenKeys::PaintKey(QPainter &painter, int key, const QRect &rect)
     if (!m_skinned)
         PaintPlainKey(painter, key);
     else if (IsPressed(key))
-        m_pressedPicture.Draw(painter, rect.topLeft(), rect);
+        painter.drawPixmap(rect.topLeft(), LitKey(m_pressed, key, rect));
     else if (IsPrompted(key))
-        m_promptPicture.Draw(painter, rect.topLeft(), rect);
+        painter.drawPixmap(rect.topLeft(), LitKey(m_prompted, key, rect));
+}
+
+const QPixmap &OnScreenKeys::LitKey(LitKeys &lit, int key, const QRect &rect)
+{
+    const qreal ratio = devicePixelRatioF();
+    QPixmap &cut = lit.keys[key];
+    if (cut.devicePixelRatio() == ratio && !cut.isNull())
+        return cut;
+    cut = QPixmap((QSizeF(rect.size()) * ratio).toSize());
+    cut.setDevicePixelRatio(ratio);
+    cut.fill(Qt::transparent);
+    QPainter painter(&cut);
+    lit.picture.Draw(painter, {}, rect);
+    m_cutTimer.start(PictureKept, this);
+    return cut;
+}
+
+void OnScreenKeys::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_cutTimer.timerId()) {
+        QWidget::timerEvent(event);
+        return;
+    }
+    m_cutTimer.stop();
+    m_prompted.picture.LetGo();
+    m_pressed.picture.LetGo();
+    Public_Function::GiveBackFreeMemory();
 }
 
 void OnScreenKeys::PaintPlainKey(QPainter &painter, int key) const

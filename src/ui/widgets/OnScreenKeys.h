@@ -5,6 +5,8 @@
 #include "ui/widgets/HeldPicture.h"
 #include "ui/widgets/KeyStroke.h"
 
+#include <QBasicTimer>
+#include <QHash>
 #include <QWidget>
 
 /// Keys drawn on the screen: the key to press next is lit (with Shift, where Shift is needed), keys that are
@@ -62,12 +64,20 @@ protected:
     virtual std::optional<int> KeyFor(const KeyStroke &stroke) const = 0;
 
     void paintEvent(QPaintEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
 
 private:
     struct HeldKey
     {
         quint32 id;
         int key;
+    };
+
+    /// The keys cut out of a picture of the whole keyboard, which is let go when there are enough of them.
+    struct LitKeys
+    {
+        HeldPicture picture;
+        QHash<int, QPixmap> keys;
     };
 
     bool IsPressed(int key) const;
@@ -79,6 +89,7 @@ private:
     void DescribeState();
     void PaintUnlit(QPainter &painter);
     void PaintKey(QPainter &painter, int key, const QRect &rect);
+    const QPixmap &LitKey(LitKeys &lit, int key, const QRect &rect);
     void PaintPlainKey(QPainter &painter, int key) const;
 
     std::optional<char32_t> m_promptCharacter;
@@ -98,6 +109,7 @@ private:
     HeldGround m_unlit; ///< with all keys as they are when nothing is lit or sunk
     bool m_skinned = false;
     HeldPicture m_normalPicture;
-    HeldPicture m_promptPicture;
-    HeldPicture m_pressedPicture;
+    LitKeys m_prompted;
+    LitKeys m_pressed;
+    QBasicTimer m_cutTimer; ///< runs out when no key had to be cut out for a while
 };

@@ -1,5 +1,9 @@
 #include "support/KeyDrillTest.h"
 #include "ui/widgets/HeldGround.h"
+#include "ui/widgets/StatusLabel.h"
+
+#include <QPainter>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -155,16 +159,27 @@ private Q_SLOTS:
         Open();
         QImage ground(m_window->size(), QImage::Format_RGB32);
         m_window->render(&ground, {}, {}, QWidget::RenderFlags());
-        for (const bool renewed : {false, true}) {
-            const QImage shown = m_window->grab().toImage();
-            for (const auto &name :
-                 {"labTime", "labPromptMsg", "picProgress", "CXKeyBoard1", "picActivateFinger"}) {
-                const QPoint corner = Part(name)->geometry().topRight();
-                QCOMPARE(shown.pixelColor(corner), ground.pixelColor(corner));
-            }
-            if (!renewed)
-                HeldGround::RenewAll();
+        const QImage shown = m_window->grab().toImage();
+        for (const auto &name :
+             {"labTime", "labPromptMsg", "picProgress", "CXKeyBoard1", "picActivateFinger"}) {
+            const QPoint corner = Part(name)->geometry().topRight();
+            QCOMPARE(shown.pixelColor(corner), ground.pixelColor(corner));
         }
+    }
+
+    void FollowsThePictureOfTheWindow()
+    {
+        QWidget window;
+        window.resize(100, 50);
+        StatusLabel label(&window);
+        label.resize(50, 20);
+        window.installEventFilter(this);
+        for (const auto &color : {Qt::red, Qt::blue}) {
+            m_color = color;
+            HeldGround::RenewAll();
+            QCOMPARE(window.grab().toImage().pixelColor(1, 1), QColor(color));
+        }
+        m_color.reset();
     }
 
 private:
@@ -173,11 +188,16 @@ private:
         if (event->type() == QEvent::Paint) {
             for (const QRect &rect : static_cast<QPaintEvent *>(event)->region())
                 m_painted[watched] += rect.width() * rect.height();
+            if (m_color) {
+                QPainter(static_cast<QWidget *>(watched)).fillRect(0, 0, 100, 50, *m_color);
+                return true;
+            }
         }
         return false;
     }
 
     QHash<const QObject *, int> m_painted; // pixels
+    std::optional<QColor> m_color;
 };
 
 QTEST_MAIN(tst_KeyDrill)

@@ -136,7 +136,7 @@ private Q_SLOTS:
                   "There is no default printer, so \"Science.txt\" is not printed."_s},
               Row{"optFile1", PrintOutcome::NoModule,
                   u"data\\Appendix\\Science.txt ? Science.txt|text of 文 "
-                  "\"Science.txt\" is not printed, because this file is missing or damaged: "_s +
+                  "\"Science.txt\" is not printed, because this file cannot be loaded: "_s +
                       m_install->Native(u"libquorvex_print.so"_s)},
               Row{"optFile2", yes,
                   u"data\\Appendix\\Christmas.txt ? "

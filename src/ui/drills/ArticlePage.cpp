@@ -4,6 +4,7 @@
 #include "core/shell/Public_Define.h"
 #include "ui/drills/ArticleBox.h"
 #include "ui/drills/ArticleLayout.h"
+#include "ui/widgets/CharacterGlyphs.h"
 #include "ui/widgets/TypingLine.h"
 
 #include <QCoreApplication>
@@ -94,11 +95,14 @@ QFont ArticlePage::TextFont() const
 LineMeasure ArticlePage::Measure() const
 {
     TypingLine *row = PromptRow(0);
-    const QFontMetricsF metrics(row->font());
+    const auto glyphs = CharacterGlyphs::In(row->font());
     const int padding = row->CellRect(0).left();
-    const qreal lineEnd = metrics.horizontalAdvance(QString::fromUcs4(&returnSign, 1) + u' ');
-    return {[metrics](const QString &text) {
-                return static_cast<int>(std::floor(metrics.horizontalAdvance(text)));
+    const qreal lineEnd = glyphs->Advance(returnSign) + glyphs->Advance(U' ');
+    return {[glyphs](const QString &text) {
+                qreal wide = 0;
+                for (const char32_t character : text.toStdU32String())
+                    wide += glyphs->Advance(character);
+                return static_cast<int>(std::floor(wide));
             },
             row->width() - 2 * padding - static_cast<int>(std::ceil(lineEnd))};
 }

@@ -67,6 +67,12 @@ void LineDrill::ShowLine()
 void LineDrill::ShowPlace()
 {
     ShowPosition();
+    ShowNext();
+}
+
+/// What belongs to the place beside the lines.
+void LineDrill::ShowNext()
+{
     ShowPromptKey(m_session.Expected());
     OnPlaceChanged();
 }
@@ -95,23 +101,22 @@ void LineDrill::Judge(char32_t typed)
 {
     const int position = m_session.Position();
     const LineSession::Outcome outcome = m_session.Type(typed);
-    const bool nextLine = outcome.step == LineSession::Step::NextLine;
-    if (!nextLine) {
+    if (outcome.step == LineSession::Step::NextLine) {
+        PromptRTB->SetLine(m_session.Line().text);
+        InputRTB->SetLine({});
+    } else {
         const TypingLine::Look look = outcome.right ? TypingLine::Look::Right : TypingLine::Look::Wrong;
         if (position < PromptRTB->Length())
             PromptRTB->SetCharacter(position, m_session.Judged(), look);
         InputRTB->SetCharacter(position, typed, look);
-        ShowPosition();
-        Public_Function::PaintNow(this);
     }
+    ShowPosition();
+    Public_Function::PaintNow(this);
     if (outcome.right)
         PlayRight(typed);
     else
         PlayWrong();
-    if (nextLine)
-        ShowLine();
-    else
-        ShowPlace();
+    ShowNext();
     if (outcome.step == LineSession::Step::LessonDone)
         CompleteLesson();
 }
@@ -124,7 +129,9 @@ void LineDrill::TakeBack()
     InputRTB->Truncate(position);
     if (position < PromptRTB->Length())
         PromptRTB->SetCharacter(position, m_session.Expected(), TypingLine::Look::Untyped);
-    ShowPlace();
+    ShowPosition();
+    Public_Function::PaintNow(this);
+    ShowNext();
 }
 
 QRect LineDrill::TypingArea() const

@@ -54,6 +54,7 @@ private:
     void TakeBack();
     void ShowPlace();
     void ShowPosition();
+    void ShowNext();
 
     const LineDrillPlaces m_places;
     TypingLine *PromptRTB;

@@ -148,7 +148,7 @@ void DlgTestSelect::OfferPrint() const
         if (outcome == Public_Function::PrintOutcome::NoPrinter)
             problem = tr("There is no default printer, so \"%1\" is not printed.").arg(name);
         else if (outcome == Public_Function::PrintOutcome::NoModule)
-            problem = tr("\"%1\" is not printed, because this file is missing or damaged:\n%2")
+            problem = tr("\"%1\" is not printed, because this file cannot be loaded:\n%2")
                           .arg(name, Public_Function::PrintModulePath());
         else if (outcome == Public_Function::PrintOutcome::Failed)
             problem = tr("The printer did not take \"%1\".").arg(name);

@@ -376,6 +376,7 @@ void TestWindow::OnBackspace()
         ShowTakenBack(m_nRow - 1);
         ShowPosition();
     }
+    Public_Function::PaintNow(this);
     // There is something to type on the line again.
     if (m_nTestState == TestState::Paused)
         m_nSavedState = TestState::Running;

@@ -3,6 +3,7 @@
 #include "core/engine/KFreeType.h"
 #include "core/engine/TextUnits.h"
 #include "core/shell/Public_Define.h"
+#include "ui/skin/SkinLibrary.h"
 #include "ui/speedtest/DlgTestSelect.h"
 #include "ui/speedtest/DlgTestSetting.h"
 #include "ui/widgets/ProgressBox.h"
@@ -18,7 +19,6 @@ using namespace Qt::Literals::StringLiterals;
 
 frmFreeType::frmFreeType(Navigator &navigator, QWidget *owner)
     : TestWindow(u"frmFreeType"_s, navigator, std::make_unique<KFreeType>(), owner)
-    , m_ground(u"TEST_FUGAI_BACK"_s)
 {
     Shared().TestSource = 1;
     // Nothing is judged, and there is no end to come nearer to.
@@ -118,8 +118,10 @@ void frmFreeType::paintEvent(QPaintEvent *event)
     constexpr QRect unused(450, TestLayout::panelTop, 494, 50);
     const QRect place = unused.translated(Layout().origin);
     const qreal ratio = devicePixelRatioF();
-    const QPixmap &ground = m_ground.For(ratio);
-    if (ground.isNull() || !event->rect().intersects(place))
+    if (!event->rect().intersects(place))
+        return;
+    const QPixmap ground = SkinLibrary().Bitmap(u"TEST_FUGAI_BACK"_s, ratio);
+    if (ground.isNull())
         return;
     QPainter painter(this);
     painter.drawPixmap(

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "ui/speedtest/TestWindow.h"
-#include "ui/widgets/HeldPicture.h"
 
 /// Free typing from whatever lies beside the keyboard: nothing is compared, time and speed are measured.
 class frmFreeType final : public TestWindow
@@ -22,7 +21,4 @@ protected:
     void SelectLesson() override;
     void ChangeSettings() override;
     void paintEvent(QPaintEvent *event) override;
-
-private:
-    HeldPicture m_ground;
 };

@@ -6,6 +6,8 @@
 #include "ui/widgets/CharacterGlyphs.h"
 
 #include <QFontMetrics>
+#include <QPaintEvent>
+#include <QPainter>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -103,4 +105,10 @@ void KeyCapRow::resizeEvent(QResizeEvent *)
 {
     KeepPromptVisible();
     PlaceCaps();
+}
+
+void KeyCapRow::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    m_ground.Paint(painter, event->rect());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drills/DrillLayout.h"
+#include "ui/widgets/HeldGround.h"
 #include "ui/widgets/KeyCap.h"
 
 #include <QList>
@@ -28,6 +29,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     KeyCap::State StateAt(int index) const;
@@ -35,6 +37,7 @@ private:
     int LeftEdge() const;
     void KeepPromptVisible();
 
+    HeldGround m_ground{this};
     KeyCapLook m_look;
     QSize m_capSize;
     int m_pitch;

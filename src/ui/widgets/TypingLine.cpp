@@ -73,7 +73,7 @@ TypingLine::TypingLine(const QString &objectName, const QString &accessibleName,
 QFont TypingLine::TextFont(int scaledPoints)
 {
     QFont font = Public_Function::DisplayFont(scaledPoints);
-    // Pairs and ligatures would come apart, and the text would move, where the colour changes between them.
+    // A text is as wide as its characters, which are drawn one by one.
     font.setKerning(false);
     font.setLetterSpacing(QFont::AbsoluteSpacing, 1.0 / 64);
     return font;
@@ -196,7 +196,7 @@ void TypingLine::Follow()
     PlaceCharacters();
     const int ahead = std::min(m_position + KeptAhead, Length());
     const bool hiddenLeft = m_first > 0 && m_position <= m_first;
-    const bool hiddenRight = ahead > ShownEnd() || LeftOf(ahead) > width() - SidePadding;
+    const bool hiddenRight = !hiddenLeft && (ahead > ShownEnd() || LeftOf(ahead) > width() - SidePadding);
     if (!hiddenLeft && !hiddenRight)
         return;
     const int first = std::max(0, m_position - KeptBehind);

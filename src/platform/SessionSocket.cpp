@@ -47,7 +47,7 @@ SessionSocket::SessionSocket(const QString &nativePath, Receiver receive)
         return;
     m_socket = MakeSocket();
     ::unlink(m_path.constData());
-    // Before the socket has its name nobody can send: the right to do so is settled then.
+    // Before the socket has its name nobody can send; on Linux the right to do so is settled then.
     if (m_socket < 0 || ::fchmod(m_socket, S_IRUSR | S_IWUSR) != 0 ||
         ::bind(m_socket, Generic(*address), sizeof(*address)) != 0)
         return;

@@ -14,8 +14,10 @@ namespace {
 
 QFont FontOfPixels(qreal pixels, bool bold)
 {
-    // Liberation Sans has Arial's metrics; the others stand in for the characters that it lacks.
-    QFont font({u"Liberation Sans"_s, u"Arial"_s, u"WenQuanYi Micro Hei"_s, u"DejaVu Sans"_s});
+    // Liberation Sans has Arial's metrics; the others stand in for the characters that it lacks. The signs
+    // are those of the Chinese font, which is large and so comes after them.
+    QFont font(
+        {u"Liberation Sans"_s, u"Arial"_s, u"Quorvex Signs"_s, u"WenQuanYi Micro Hei"_s, u"DejaVu Sans"_s});
     font.setPixelSize(qMax(1, qRound(pixels)));
     font.setBold(bold);
     return font;
@@ -23,9 +25,11 @@ QFont FontOfPixels(qreal pixels, bool bold)
 
 } // namespace
 
-void Public_Function::LoadFonts()
+void Public_Function::LoadFonts(bool areKnown)
 {
     for (const auto suffix : {"ttf"_L1, "ttc"_L1}) {
+        if (areKnown)
+            break;
         for (const QString &file : ListFiles(Shared().InstallDir + u"Fonts\\"_s, suffix))
             QFontDatabase::addApplicationFont(NativePath(file));
     }

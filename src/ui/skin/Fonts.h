@@ -5,9 +5,9 @@
 /// The fonts of the install folder, so that texts have the same widths on every machine.
 namespace Public_Function {
 
-/// Makes the fonts of `Fonts\` known and sets the application's font. Missing ones are replaced by what the
-/// machine has.
-void LoadFonts();
+/// Makes the fonts of `Fonts\` known, unless they are, and sets the application's font. Missing ones are
+/// replaced by what the machine has.
+void LoadFonts(bool areKnown = false);
 
 /// The interface font in a size of points at 96 dots per inch, whatever the screen's.
 QFont InterfaceFont(qreal points, bool bold = false);

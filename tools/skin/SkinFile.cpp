@@ -1,6 +1,8 @@
 #include "SkinFile.h"
 
+#include <QCryptographicHash>
 #include <QFile>
+#include <QtEndian>
 #include <memory>
 #include <sqlite3.h>
 
@@ -29,6 +31,7 @@ public:
         Insert("INSERT INTO bitmap(name, scale, png) VALUES(?, ?, ?)", [&](sqlite3_stmt *statement) {
             BindText(statement, 1, picture.name);
             sqlite3_bind_int(statement, 2, picture.scale);
+            m_sum.addData(picture.png);
             sqlite3_bind_blob64(statement, 3, picture.png.constData(),
                                 static_cast<sqlite3_uint64>(picture.png.size()), SQLITE_TRANSIENT);
         });
@@ -37,9 +40,17 @@ public:
     void AddColor(const QString &key, const QString &value)
     {
         Insert("INSERT INTO theme(key, value) VALUES(?, ?)", [&](sqlite3_stmt *statement) {
+            m_sum.addData((key + value).toUtf8());
             BindText(statement, 1, key);
             BindText(statement, 2, value);
         });
+    }
+
+    /// A sum of the content in the head of the file tells one skin from another without reading it.
+    void NoteSum()
+    {
+        const auto sum = qFromBigEndian<qint32>(m_sum.result().constData());
+        Execute(("PRAGMA user_version = " + QByteArray::number(sum)).constData());
     }
 
     QString Problem() const
@@ -74,6 +85,7 @@ private:
     };
     std::unique_ptr<sqlite3, Closer> m_database;
     bool m_failed = false;
+    QCryptographicHash m_sum{QCryptographicHash::Sha256};
 };
 
 } // namespace
@@ -97,6 +109,7 @@ QString WriteSkinFile(const QString &path, const QList<SkinPicture> &pictures,
             const QColor color = entry.value();
             writer.AddColor(entry.key(), color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb));
         }
+        writer.NoteSum();
         writer.Execute("COMMIT");
         problem = writer.Problem();
     }

@@ -1,6 +1,8 @@
 #include "Pictures.h"
 #include "SkinFile.h"
 #include "Theme.h"
+#include "ui/shell/MenuPictures.h"
+#include "ui/skin/ReadyPictures.h"
 
 #include <QBuffer>
 #include <QCommandLineParser>
@@ -80,6 +82,18 @@ PictureList MakeSkinPictures(const Theme &theme)
     return list;
 }
 
+/// As the program would decode them, so that they look the same from both files.
+QList<std::pair<QString, QImage>> DecodedMenuPictures(const QList<SkinPicture> &pictures)
+{
+    const QStringList menu = MenuPictures();
+    QList<std::pair<QString, QImage>> decoded;
+    for (const SkinPicture &picture : pictures) {
+        if (picture.scale == 1 && menu.contains(picture.name))
+            decoded.append({picture.name, QImage::fromData(picture.png, "PNG")});
+    }
+    return decoded;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -133,6 +147,9 @@ int main(int argc, char **argv)
     const QMap<QString, QColor> colors = theme.RuntimeColors();
     if (!theme.Problems().isEmpty())
         return Fail(u"in the theme:\n"_s + theme.Problems().join(u'\n'));
-    const QString problem = WriteSkinFile(parser.value(u"library"_s), pictures, colors);
+    const QString library = parser.value(u"library"_s);
+    QString problem = WriteSkinFile(library, pictures, colors);
+    if (problem.isEmpty())
+        problem = ReadyPictures::Write(library, DecodedMenuPictures(pictures), colors);
     return problem.isEmpty() ? 0 : Fail(problem);
 }

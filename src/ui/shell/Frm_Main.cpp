@@ -21,6 +21,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
@@ -105,6 +106,13 @@ void Frm_Main::ShowMenu()
 {
     Public_Function::CoverScreen(this);
     XBtnEnglish->setFocus();
+
+    // While the display server and the window manager are busy with the window.
+    const SkinLibrary library;
+    for (const QString &picture : {u"MAIN_BG"_s, u"MAIN_BACK"_s})
+        library.Bitmap(picture, devicePixelRatioF());
+    for (const SkinButton *button : findChildren<SkinButton *>())
+        button->LoadLook();
 }
 
 void Frm_Main::LayoutMainMenu()
@@ -181,6 +189,7 @@ void Frm_Main::PaintMainBackground(QPainter &painter, const QRect &exposed) cons
 
 void Frm_Main::paintEvent(QPaintEvent *event)
 {
+    Public_Function::PrepareToPaint(this, event->rect());
     QPainter painter(this);
     PaintMainBackground(painter, event->rect());
 }

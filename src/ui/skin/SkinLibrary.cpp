@@ -2,6 +2,8 @@
 
 #include "core/shell/Public_Define.h"
 #include "platform/Paths.h"
+#include "ui/skin/Png.h"
+#include "ui/skin/ReadyPictures.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -12,6 +14,7 @@
 #include <QtEndian>
 #include <future>
 #include <map>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,16 +33,23 @@ Facts &KnownFacts()
     return facts;
 }
 
-/// The file that was opened last, and the prefix of its keys.
-struct OpenFile
+/// What was opened last, and the prefix of its keys.
+struct OpenFiles
 {
     QString keyPrefix;
-    SqliteFile file;
+    std::optional<SqliteFile> library;
+    std::optional<ReadyPictures> ready;
 };
 
-OpenFile &LastOpened()
+/// Those of the library whose keys have this prefix.
+OpenFiles &Opened(const QString &keyPrefix)
 {
-    static OpenFile opened;
+    static OpenFiles opened;
+    if (opened.keyPrefix != keyPrefix) {
+        opened = {keyPrefix, std::nullopt, std::nullopt};
+        // Not longer: some systems do not let a file be replaced that is open.
+        QTimer::singleShot(0, QCoreApplication::instance(), [] { opened = {}; });
+    }
     return opened;
 }
 
@@ -95,13 +105,18 @@ SkinLibrary::SkinLibrary()
 
 const SqliteFile &SkinLibrary::File() const
 {
-    OpenFile &opened = LastOpened();
-    if (opened.keyPrefix != m_keyPrefix || !opened.file.IsOpen()) {
-        opened = {m_keyPrefix, SqliteFile(m_path)};
-        // Not longer: some systems do not let a file be replaced that is open.
-        QTimer::singleShot(0, QCoreApplication::instance(), [] { LastOpened() = {}; });
-    }
-    return opened.file;
+    std::optional<SqliteFile> &library = Opened(m_keyPrefix).library;
+    if (!library || !library->IsOpen())
+        library.emplace(m_path);
+    return *library;
+}
+
+const ReadyPictures &SkinLibrary::Ready() const
+{
+    std::optional<ReadyPictures> &ready = Opened(m_keyPrefix).ready;
+    if (!ready)
+        ready.emplace(m_path);
+    return *ready;
 }
 
 QString SkinLibrary::PictureKey(const QString &name, int scale) const
@@ -118,16 +133,19 @@ void SkinLibrary::DecodeAhead(const QStringList &names, qreal devicePixelRatio)
     for (const QString &name : names) {
         const QString key = library.PictureKey(name, scale);
         QPixmap known;
-        if (ahead.pictures.count(key) == 0 && !QPixmapCache::find(key, &known)) {
+        const bool isReady = scale == 1 && !library.Ready().Size(name).isEmpty();
+        if (!isReady && ahead.pictures.count(key) == 0 && !QPixmapCache::find(key, &known)) {
             work.emplace_back(name, std::promise<QImage>());
             ahead.pictures[key] = work.back().second.get_future();
         }
     }
+    if (work.empty())
+        return;
     ahead.worker =
         std::async(std::launch::async, [path = library.m_path, scale, work = std::move(work)]() mutable {
             const SqliteFile file(path);
             for (auto &[name, picture] : work)
-                picture.set_value(QImage::fromData(ReadPng(file, name, scale), "PNG")
+                picture.set_value(Public_Function::DecodePng(ReadPng(file, name, scale))
                                       .convertToFormat(QImage::Format_ARGB32_Premultiplied));
         });
 }
@@ -144,7 +162,10 @@ QPixmap SkinLibrary::Drawn(const QString &name, qreal devicePixelRatio) const
         pixmap = QPixmap::fromImage(begun->second.get());
         ahead.erase(begun);
     } else {
-        pixmap.loadFromData(ReadPng(File(), name, scale), "PNG");
+        QImage image = Ready().Picture(name, scale);
+        if (image.isNull())
+            image = Public_Function::DecodePng(ReadPng(File(), name, scale));
+        pixmap = QPixmap::fromImage(std::move(image));
     }
     if (pixmap.isNull())
         return {};
@@ -202,13 +223,21 @@ QSize SkinLibrary::BitmapSize(const QString &name) const
     QHash<QString, QSize> &sizes = KnownFacts().sizes;
     if (const auto known = sizes.constFind(key); known != sizes.constEnd())
         return *known;
+    QSize size = Ready().Size(name);
+    if (size.isEmpty())
+        size = SizeInLibrary(name);
+    sizes.insert(key, size);
+    return size;
+}
+
+QSize SkinLibrary::SizeInLibrary(const QString &name) const
+{
     QSize size;
     File().Query("SELECT substr(png, 1, 24) FROM bitmap WHERE name = ? AND scale = 1", {name},
                  [&size](const SqliteFile::Row &row) {
                      size = PngSize(row.Bytes(0));
                      return false;
                  });
-    sizes.insert(key, size);
     return size;
 }
 
@@ -218,16 +247,18 @@ QColor SkinLibrary::Color(const QString &key, const QColor &fallback) const
     QHash<QString, QColor> &colors = KnownFacts().colors;
     if (const auto known = colors.constFind(fullKey); known != colors.constEnd())
         return known->isValid() ? *known : fallback;
-    QColor color;
-    File().Query("SELECT value FROM theme WHERE key = ?", {key}, [&color](const SqliteFile::Row &row) {
-        color = QColor(row.Text(0));
-        return false;
-    });
+    QColor color = Ready().Color(key);
+    if (!color.isValid()) {
+        File().Query("SELECT value FROM theme WHERE key = ?", {key}, [&color](const SqliteFile::Row &row) {
+            color = QColor(row.Text(0));
+            return false;
+        });
+    }
     colors.insert(fullKey, color);
     return color.isValid() ? color : fallback;
 }
 
 bool SkinLibrary::IsUsable() const
 {
-    return !BitmapSize(u"MAIN_BG"_s).isEmpty();
+    return !SizeInLibrary(u"MAIN_BG"_s).isEmpty();
 }

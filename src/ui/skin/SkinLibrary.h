@@ -6,10 +6,12 @@
 #include <QPixmap>
 #include <QStringList>
 
+class ReadyPictures;
+
 /// The pictures that every window is painted from, found by their exact names in `Bitmap\1024_CH.DLL` below
 /// `InstallDir`. Make one where you paint, take what you need, let it go: the file is opened only when a
 /// picture is not in the pixmap cache, whose keys hold the file's time stamp and size, so that a replaced
-/// skin shows at once.
+/// skin shows at once. The pictures of the menu may lie ready to be painted beside it.
 class SkinLibrary
 {
 public:
@@ -29,8 +31,8 @@ public:
     /// A colour of the theme, or `fallback`.
     QColor Color(const QString &key, const QColor &fallback) const;
 
-    /// Begins to decode pictures beside the program's own work, for a window that will soon be painted on a
-    /// screen of that ratio. Who asks for one of them before it is ready waits for it.
+    /// Begins to decode pictures beside the program's own work, unless they lie ready, for a window that will
+    /// soon be painted on a screen of that ratio. Who asks for one of them before it is decoded waits for it.
     static void DecodeAhead(const QStringList &names, qreal devicePixelRatio);
 
     /// Takes pictures out of the pixmap cache. They are decoded again when they are asked for.
@@ -42,8 +44,10 @@ public:
 private:
     /// The picture as it was drawn for the ratio, not yet fitted to it.
     QPixmap Drawn(const QString &name, qreal devicePixelRatio) const;
-    /// The open file, kept for those who also paint in this turn of the event loop.
+    /// The open files, kept for those who also paint in this turn of the event loop.
     const SqliteFile &File() const;
+    const ReadyPictures &Ready() const;
+    QSize SizeInLibrary(const QString &name) const;
     QString PictureKey(const QString &name, int scale) const;
     QString FrameKey(const QString &strip, int frame, int frames, qreal devicePixelRatio) const;
 

@@ -1,8 +1,10 @@
 #include "ui/skin/WindowFrame.h"
 
 #include "core/shell/Public_Define.h"
+#include "platform/Prefault.h"
 #include "ui/skin/SkinLibrary.h"
 
+#include <QBackingStore>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QWidget>
@@ -84,6 +86,16 @@ void Public_Function::CoverScreen(QWidget *window)
     // The geometry serves where there is no window manager, full screen where there is one.
     window->setGeometry(Shared().ScreenRect);
     window->showFullScreen();
+}
+
+void Public_Function::PrepareToPaint(QWidget *window, const QRect &exposed)
+{
+    QBackingStore *store = window->backingStore();
+    QPaintDevice *device = store && exposed == window->rect() ? store->paintDevice() : nullptr;
+    if (device && device->devType() == QInternal::Image) {
+        const auto *image = static_cast<const QImage *>(device);
+        Prefault(const_cast<uchar *>(image->constBits()), static_cast<std::size_t>(image->sizeInBytes()));
+    }
 }
 
 void Public_Function::DrawWindowEdge(QPainter &painter, const QSize &window)

@@ -53,6 +53,16 @@ void SkinButton::SetButton(const QString &bitmap, const SkinLibrary &library, in
     update();
 }
 
+QPixmap SkinButton::Look(int frame) const
+{
+    return SkinLibrary().Frame(m_bitmap, qMin(frame, m_frames - 1), m_frames, devicePixelRatioF());
+}
+
+void SkinButton::LoadLook() const
+{
+    Look(Normal);
+}
+
 QSize SkinButton::sizeHint() const
 {
     return m_frameSize;
@@ -71,8 +81,7 @@ void SkinButton::paintEvent(QPaintEvent *)
     else if (hasFocus() && m_frames > Focused)
         frame = Focused;
 
-    const QPixmap look =
-        SkinLibrary().Frame(m_bitmap, qMin(frame, m_frames - 1), m_frames, devicePixelRatioF());
+    const QPixmap look = Look(frame);
     if (look.isNull()) {
         painter.fillRect(rect(), frame == Pressed ? QColor(190, 195, 206) : QColor(226, 229, 236));
         painter.setPen(isEnabled() ? QColor(60, 70, 90) : QColor(150, 155, 165));

@@ -23,6 +23,9 @@ public:
 
     void SetButton(const QString &bitmap, const SkinLibrary &library, int frames = 4);
 
+    /// Keeps the normal look at hand for the first paint.
+    void LoadLook() const;
+
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -36,6 +39,9 @@ protected:
     void leaveEvent(QEvent *event) override;
 
 private:
+    /// Null without a picture.
+    QPixmap Look(int frame) const;
+
     QString m_bitmap;
     QSize m_frameSize;
     QColor m_focusColor{255, 164, 84};

@@ -3,17 +3,20 @@
 
 #include "core/shell/Public_Define.h"
 #include "platform/DBusInputMethod.h"
-#include "platform/FontSettings.h"
+#include "platform/FontsAhead.h"
 #include "platform/Paths.h"
+#include "platform/ProgramFolder.h"
 #include "platform/SdlSoundPlayer.h"
 #include "platform/Services.h"
 #include "platform/SingleInstance.h"
 #include "platform/TerminationSignals.h"
 #include "ui/shell/Frm_Main.h"
 #include "ui/shell/InputMethodWatch.h"
+#include "ui/shell/MenuPictures.h"
 #include "ui/shell/ScreenFit.h"
 #include "ui/shell/ShowMessage.h"
 #include "ui/skin/Fonts.h"
+#include "ui/skin/Png.h"
 #include "ui/skin/SkinLibrary.h"
 #include "ui/skin/StatusTexts.h"
 
@@ -29,10 +32,10 @@ namespace {
 constexpr int PixmapCacheKilobytes = 64 * 1024;
 constexpr std::chrono::milliseconds InputMethodPatience{50}; // what a bus that hangs may cost the start
 
-/// The program folder, ending in exactly one separator.
-QString FindInstallDir()
+/// The product form of a folder, ending in exactly one separator.
+QString InstallDirOf(const QString &programFolder)
 {
-    QString folder = Public_Function::ProductPath(QCoreApplication::applicationDirPath());
+    QString folder = Public_Function::ProductPath(programFolder);
     if (!folder.endsWith(u'\\'))
         folder += u'\\';
     return folder;
@@ -62,14 +65,6 @@ void SayWhatIsMissing()
         u"Quorvex"_s, MessageIcon::Information, MessageButtons::Ok);
 }
 
-/// What the menu is painted from, in the order in which it is asked for.
-QStringList MenuPictures()
-{
-    return {u"MAIN_BG"_s,          u"MAIN_BACK"_s,         u"BTN_YINGWEN"_s,      u"BTN_CESHI"_s,
-            u"BTN_JIAOCHENG"_s,    u"BTN_YOUXI_MISSILE"_s, u"BTN_YOUXI_RABBIT"_s, u"BTN_GERENJILU"_s,
-            u"BTN_TUICHUDENGLU"_s, u"BTN_HELP"_s,          u"BTN_MIN"_s,          u"BTN_CLOSE"_s};
-}
-
 /// Closes what is open, innermost first, so that every window stores what it holds.
 void EndProgram(Frm_Main *mainWindow)
 {
@@ -89,19 +84,21 @@ int main(int argc, char **argv)
     QGuiApplication::setDesktopFileName(u"quorvex"_s); // by which a desktop knows whose windows these are
     DBusInputMethod inputMethod;
     inputMethod.ChooseRunning(InputMethodPatience);
-    const std::future<void> fontSettings = Public_Function::ReadFontSettingsAhead();
+    std::future<bool> fonts;
+    if (const QString folder = Public_Function::ProgramFolder(); !folder.isEmpty())
+        fonts =
+            Public_Function::ReadFontsAhead(Public_Function::NativePath(InstallDirOf(folder) + u"Fonts"_s));
     const std::unique_ptr<QApplication> application = MakeApplication(argc, argv);
 
-    // Its format said, no decoder of other formats is loaded to look at it.
-    QApplication::setWindowIcon(QPixmap(u":/message/APP_ICON.png"_s, "PNG"));
+    QApplication::setWindowIcon(QPixmap::fromImage(Public_Function::OwnPicture(u":/message/APP_ICON.png"_s)));
     SingleInstance instance;
     if (!instance.IsFirst())
         return 0;
-    Shared().InstallDir = FindInstallDir();
+    Shared().InstallDir = InstallDirOf(QCoreApplication::applicationDirPath());
     Shared().HelpFile = Shared().InstallDir + u"Quorvex.chm"_s;
     QPixmapCache::setCacheLimit(PixmapCacheKilobytes);
     SkinLibrary::DecodeAhead(MenuPictures(), QGuiApplication::primaryScreen()->devicePixelRatio());
-    Public_Function::LoadFonts();
+    Public_Function::LoadFonts(fonts.valid() && fonts.get());
     const QScreen *screen = QGuiApplication::primaryScreen();
     Public_Function::InitFontSizes(screen->logicalDotsPerInch());
     Shared().ScreenRect = QRect(QPoint(0, 0), screen->size());

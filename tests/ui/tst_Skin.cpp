@@ -1,4 +1,9 @@
+#include "platform/SqliteFile.h"
 #include "support/SkinnedInstall.h"
+#include "ui/shell/CoveredWindow.h"
+#include "ui/shell/MenuPictures.h"
+#include "ui/skin/Png.h"
+#include "ui/skin/ReadyPictures.h"
 #include "ui/skin/SkinLibrary.h"
 #include "ui/skin/SkinnedDialog.h"
 #include "ui/skin/StatusTexts.h"
@@ -83,6 +88,96 @@ private Q_SLOTS:
             QVERIFY(!dialog.grab().isNull());
             QTest::mouseClick(dialog.BtnOk, Qt::LeftButton);
             QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        }
+    }
+
+    /// What lies ready looks like the library, and is used only while it is this library's and whole.
+    void PicturesOfTheMenuLieReady()
+    {
+        const QByteArray whole = m_install->Read(u"Bitmap/1024_CH.DLL"_s);
+        const QByteArray pixels = m_install->Read(u"Bitmap/1024_CH.PIX"_s);
+        const QString shipped = m_install->Native(u"Bitmap/1024_CH.DLL"_s);
+        QHash<QString, QImage> decoded;
+        const ReadyPictures ready(shipped);
+        for (const QString &name : MenuPictures()) {
+            SqliteFile(shipped).Query("SELECT png FROM bitmap WHERE name = ? AND scale = 1", {name},
+                                      [&](const SqliteFile::Row &row) {
+                                          decoded[name] = Public_Function::DecodePng(row.Bytes(0));
+                                          return false;
+                                      });
+            QVERIFY2(!decoded[name].isNull(), qPrintable(name));
+            QCOMPARE(ready.Picture(name, 1),
+                     decoded[name].convertToFormat(QImage::Format_ARGB32_Premultiplied));
+            QVERIFY(ready.Picture(name, 2).isNull());
+        }
+        QCOMPARE(ready.Color(u"focus"_s), SkinLibrary().Color(u"focus"_s, {}));
+
+        m_install.reset();
+        const TestInstall own;
+        const auto shows = [&](const QByteArray &library, const QByteArray &beside) {
+            own.Write(u"Bitmap/1024_CH.DLL"_s, library);
+            own.Write(u"Bitmap/1024_CH.PIX"_s, beside);
+            QPixmapCache::clear();
+            return SkinLibrary().Bitmap(u"MAIN_BACK"_s, 1).toImage().convertToFormat(QImage::Format_ARGB32);
+        };
+        QByteArray reddened = pixels;
+        std::fill(reddened.begin() + 64 * 1024, reddened.end(), '\xff');
+        QVERIFY(shows(whole, reddened) != decoded[u"MAIN_BACK"_s]);
+        QByteArray changed = whole;
+        changed[27] = static_cast<char>(changed[27] + 1); // where SQLite counts changes
+        for (const auto &[library, beside] : {std::pair(changed, reddened),
+                                              {whole, QByteArray("no pictures")},
+                                              {whole, reddened.left(200)},
+                                              {whole, reddened.left(70000)},
+                                              {whole, QByteArray("QVXPIX1\n\xff\xff\xff\xff")}})
+            QCOMPARE(shows(library, beside), decoded[u"MAIN_BACK"_s]);
+    }
+
+    /// Its image is let go; when it can be seen again, all of it is painted.
+    void ACoveredWindowPaintsItselfAgain()
+    {
+        struct Painted : QWidget
+        {
+            void paintEvent(QPaintEvent *event) override { region += event->region(); }
+            QRegion region;
+        };
+        Painted window;
+        window.resize(300, 200);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const QList<std::function<void(std::unique_ptr<CoveredWindow> &)>> ends{
+            [](auto &cover) { cover.reset(); },
+            [&](auto &) {
+                QCoreApplication::sendEvent(&window, std::make_unique<QEvent>(QEvent::WindowActivate).get());
+            },
+            [&](auto &) {
+                QExposeEvent expose(window.rect());
+                QCoreApplication::sendEvent(window.windowHandle(), &expose);
+            }};
+        for (const auto &end : ends) {
+            QTRY_COMPARE(window.backingStore()->size(), window.size());
+            auto cover = std::make_unique<CoveredWindow>(&window);
+            window.region = {};
+            window.update();
+            QCoreApplication::processEvents();
+            QVERIFY(window.region.isEmpty());
+            QVERIFY(window.backingStore()->size() != window.size());
+            end(cover);
+            QTRY_COMPARE(window.region, QRegion(window.rect()));
+        }
+    }
+
+    /// Captions have a full-width colon; for it alone the large Chinese font is not to be read.
+    void SignsHaveASmallFont()
+    {
+        const QFont font = Public_Function::InterfaceFont(9);
+        QTextLayout layout(u"：↵"_s, font);
+        layout.beginLayout();
+        layout.createLine();
+        layout.endLayout();
+        for (const QGlyphRun &run : layout.glyphRuns()) {
+            QCOMPARE(run.rawFont().familyName(), u"Quorvex Signs"_s);
+            QVERIFY(!run.glyphIndexes().contains(0));
         }
     }
 

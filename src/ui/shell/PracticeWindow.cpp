@@ -2,6 +2,7 @@
 
 #include "core/shell/Public_Define.h"
 #include "platform/FreeMemory.h"
+#include "ui/shell/CoveredWindow.h"
 #include "ui/skin/Fonts.h"
 #include "ui/skin/SkinLibrary.h"
 #include "ui/skin/StatusTexts.h"
@@ -198,8 +199,11 @@ bool PracticeWindow::event(QEvent *event)
     return QDialog::event(event);
 }
 
+PracticeWindow::~PracticeWindow() = default;
+
 void PracticeWindow::paintEvent(QPaintEvent *event)
 {
+    Public_Function::PrepareToPaint(this, event->rect());
     QPainter painter(this);
     Public_Function::PaintDrillWindow(SkinKind(), painter, event->region(), m_anchors);
     if (event->rect().top() < TitleZone)
@@ -209,7 +213,7 @@ void PracticeWindow::paintEvent(QPaintEvent *event)
 }
 
 /// What changes while people type keeps what it needs. The other pictures, megabytes of them, also those of
-/// the menu that this window hides, are decoded again when they are needed.
+/// the menu that this window hides, are decoded again when they are needed; so is the menu's own image.
 void PracticeWindow::timerEvent(QTimerEvent *event)
 {
     if (event->timerId() != m_groundTimer.timerId()) {
@@ -218,6 +222,8 @@ void PracticeWindow::timerEvent(QTimerEvent *event)
     }
     m_groundTimer.stop();
     QPixmapCache::clear();
+    if (parentWidget())
+        m_menu = std::make_unique<CoveredWindow>(parentWidget()->window());
     Public_Function::GiveBackFreeMemory();
 }
 

@@ -6,7 +6,9 @@
 #include <QBasicTimer>
 #include <QDialog>
 #include <QList>
+#include <memory>
 
+class CoveredWindow;
 class ProgressBox;
 class QLabel;
 class QTimer;
@@ -20,6 +22,7 @@ class PracticeWindow : public QDialog
     Q_OBJECT
 
 public:
+    ~PracticeWindow() override;
     void reject() override;
 
 protected:
@@ -80,6 +83,7 @@ private:
     DrillLayout m_layout;
     QList<QPoint> m_anchors; ///< of the pictures that PaintDrillWindow puts down
     QString m_title;
+    std::unique_ptr<CoveredWindow> m_menu; ///< which lies below this window
     QBasicTimer m_groundTimer; ///< runs out when the window's pictures have not been needed for a while
 
     SkinButton *BtnHelp;

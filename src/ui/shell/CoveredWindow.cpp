@@ -1,0 +1,37 @@
+#include "ui/shell/CoveredWindow.h"
+
+#include <QBackingStore>
+#include <QEvent>
+#include <QWidget>
+#include <QWindow>
+
+CoveredWindow::CoveredWindow(QWidget *window)
+    : m_window(window)
+{
+    QBackingStore *image = window->isVisible() && window->windowHandle() ? window->backingStore() : nullptr;
+    if (!image)
+        return;
+    window->installEventFilter(this);
+    window->windowHandle()->installEventFilter(this);
+    // Else what is left of the image would be shown when the display asks for it.
+    window->setUpdatesEnabled(false);
+    image->resize(QSize(1, 1));
+}
+
+CoveredWindow::~CoveredWindow()
+{
+    ShowAgain();
+}
+
+bool CoveredWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::Expose)
+        ShowAgain();
+    return QObject::eventFilter(watched, event);
+}
+
+void CoveredWindow::ShowAgain()
+{
+    if (m_window && !m_window->updatesEnabled())
+        m_window->setUpdatesEnabled(true);
+}

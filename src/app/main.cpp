@@ -41,13 +41,15 @@ QString InstallDirOf(const QString &programFolder)
     return folder;
 }
 
-/// An application object whose scale leaves room for the windows on the screen there is.
-std::unique_ptr<QApplication> MakeApplication(int &argc, char **argv)
+/// An application object whose scale leaves room for the windows on the screen there is. One that must be
+/// made again forgets the fonts that were read ahead for the first.
+std::unique_ptr<QApplication> MakeApplication(int &argc, char **argv, std::future<bool> &fonts)
 {
     auto application = std::make_unique<QApplication>(argc, argv);
     const double factor = ScaleToFit(QGuiApplication::primaryScreen()->size(),
                                      QGuiApplication::primaryScreen()->devicePixelRatio());
     if (factor != 1.0) {
+        fonts = {}; // waits for them
         application.reset();
         ChangeScale(factor);
         application = std::make_unique<QApplication>(argc, argv);
@@ -88,7 +90,8 @@ int main(int argc, char **argv)
     if (const QString folder = Public_Function::ProgramFolder(); !folder.isEmpty())
         fonts =
             Public_Function::ReadFontsAhead(Public_Function::NativePath(InstallDirOf(folder) + u"Fonts"_s));
-    const std::unique_ptr<QApplication> application = MakeApplication(argc, argv);
+    const std::unique_ptr<QApplication> application = MakeApplication(argc, argv, fonts);
+    const bool areFontsKnown = fonts.valid() && fonts.get();
 
     QApplication::setWindowIcon(QPixmap::fromImage(Public_Function::OwnPicture(u":/message/APP_ICON.png"_s)));
     SingleInstance instance;
@@ -98,7 +101,7 @@ int main(int argc, char **argv)
     Shared().HelpFile = Shared().InstallDir + u"Quorvex.chm"_s;
     QPixmapCache::setCacheLimit(PixmapCacheKilobytes);
     SkinLibrary::DecodeAhead(MenuPictures(), QGuiApplication::primaryScreen()->devicePixelRatio());
-    Public_Function::LoadFonts(fonts.valid() && fonts.get());
+    Public_Function::LoadFonts(areFontsKnown);
     const QScreen *screen = QGuiApplication::primaryScreen();
     Public_Function::InitFontSizes(screen->logicalDotsPerInch());
     Shared().ScreenRect = QRect(QPoint(0, 0), screen->size());

@@ -110,7 +110,24 @@ private Q_SLOTS:
                      decoded[name].convertToFormat(QImage::Format_ARGB32_Premultiplied));
             QVERIFY(ready.Picture(name, 2).isNull());
         }
-        QCOMPARE(ready.Color(u"focus"_s), SkinLibrary().Color(u"focus"_s, {}));
+        QString focus;
+        SqliteFile(shipped).Query("SELECT value FROM theme WHERE key = 'focus'", {},
+                                  [&](const SqliteFile::Row &row) {
+                                      focus = row.Text(0);
+                                      return false;
+                                  });
+        QCOMPARE(ready.Color(u"focus"_s), QColor(focus));
+
+        // A damaged PNG is no picture, nor is one of a size that no skin has.
+        QByteArray png;
+        QBuffer buffer(&png);
+        decoded[u"MAIN_BACK"_s].save(&buffer, "PNG");
+        QVERIFY(!Public_Function::DecodePng(png).isNull());
+        QVERIFY(Public_Function::DecodePng(png.left(png.size() / 2)).isNull());
+        buffer.close();
+        png.clear();
+        QImage(9000, 1, QImage::Format_ARGB32).save(&buffer, "PNG");
+        QVERIFY(!png.isEmpty() && Public_Function::DecodePng(png).isNull());
 
         m_install.reset();
         const TestInstall own;
@@ -118,6 +135,7 @@ private Q_SLOTS:
             own.Write(u"Bitmap/1024_CH.DLL"_s, library);
             own.Write(u"Bitmap/1024_CH.PIX"_s, beside);
             QPixmapCache::clear();
+            QCoreApplication::processEvents(); // files are kept open for a turn
             return SkinLibrary().Bitmap(u"MAIN_BACK"_s, 1).toImage().convertToFormat(QImage::Format_ARGB32);
         };
         QByteArray reddened = pixels;
@@ -145,6 +163,12 @@ private Q_SLOTS:
         window.resize(300, 200);
         window.show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
+        {
+            const CoveredWindow active(&window);
+            QVERIFY(window.updatesEnabled());
+        }
+        QWidget other;
+        other.show();
         const QList<std::function<void(std::unique_ptr<CoveredWindow> &)>> ends{
             [](auto &cover) { cover.reset(); },
             [&](auto &) {
@@ -153,9 +177,16 @@ private Q_SLOTS:
             [&](auto &) {
                 QExposeEvent expose(window.rect());
                 QCoreApplication::sendEvent(window.windowHandle(), &expose);
+            },
+            [&](auto &) {
+                QPaintEvent paint(window.rect());
+                QCoreApplication::sendEvent(window.windowHandle(), &paint);
             }};
         for (const auto &end : ends) {
             QTRY_COMPARE(window.backingStore()->size(), window.size());
+            other.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&other));
+            QCoreApplication::processEvents(); // what is still to be painted
             auto cover = std::make_unique<CoveredWindow>(&window);
             window.region = {};
             window.update();
@@ -175,6 +206,7 @@ private Q_SLOTS:
         layout.beginLayout();
         layout.createLine();
         layout.endLayout();
+        QVERIFY(!layout.glyphRuns().isEmpty());
         for (const QGlyphRun &run : layout.glyphRuns()) {
             QCOMPARE(run.rawFont().familyName(), u"Quorvex Signs"_s);
             QVERIFY(!run.glyphIndexes().contains(0));

@@ -4,7 +4,9 @@
 #include <array>
 #include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
+#include <hb-ot.h>
 #include <hb-subset.h>
 #include <memory>
 #include <string>
@@ -27,25 +29,48 @@ void AddShort(std::string &bytes, std::size_t value)
     bytes += static_cast<char>(value & 0xff);
 }
 
-/// A table `name` for Windows and Unicode, in English; `family` is ASCII.
-std::string NameTable(const std::string &family)
+std::u16string Wide(const std::string &ascii)
+{
+    return {ascii.begin(), ascii.end()};
+}
+
+/// What the font says of itself in English, as its copyright and licence.
+std::u16string Statement(hb_face_t *font, hb_ot_name_id_t id)
+{
+    std::array<std::uint16_t, 4096> text{};
+    unsigned length = text.size();
+    hb_ot_name_get_utf16(font, id, hb_language_from_string("en", -1), &length, text.data());
+    return {text.begin(), text.begin() + length};
+}
+
+/// A table `name` for Windows and Unicode, in English; `family` is ASCII. The statements are those of `font`.
+std::string NameTable(hb_face_t *font, const std::string &family)
 {
     std::string postScript;
     for (const char letter : family)
         postScript += letter == ' ' ? "" : std::string(1, letter);
-    const std::vector<std::pair<unsigned, std::string>> names{
-        {1, family}, {2, "Regular"}, {3, family}, {4, family}, {6, postScript + "-Regular"}};
+    std::vector<std::pair<hb_ot_name_id_t, std::u16string>> names{
+        {HB_OT_NAME_ID_COPYRIGHT, {}},
+        {HB_OT_NAME_ID_FONT_FAMILY, Wide(family)},
+        {HB_OT_NAME_ID_FONT_SUBFAMILY, u"Regular"},
+        {HB_OT_NAME_ID_UNIQUE_ID, Wide(family)},
+        {HB_OT_NAME_ID_FULL_NAME, Wide(family)},
+        {HB_OT_NAME_ID_POSTSCRIPT_NAME, Wide(postScript)},
+        {HB_OT_NAME_ID_LICENSE, {}},
+        {HB_OT_NAME_ID_LICENSE_URL, {}}};
     std::string table;
     std::string texts;
     AddShort(table, 0); // format
     AddShort(table, names.size());
     AddShort(table, 6 + 12 * names.size());
-    for (const auto &[id, text] : names) {
+    for (auto &[id, text] : names) {
+        if (text.empty())
+            text = Statement(font, id);
         for (const std::size_t field : {std::size_t(3), std::size_t(1), std::size_t(0x409), std::size_t(id),
                                         2 * text.size(), texts.size()})
             AddShort(table, field);
-        for (const char letter : text)
-            AddShort(texts, static_cast<unsigned char>(letter));
+        for (const char16_t unit : text)
+            AddShort(texts, unit);
     }
     return table + texts;
 }
@@ -79,7 +104,7 @@ Face CutOut(const char *font, const std::string &family)
         if (tags[index] != nameTag)
             hb_face_builder_add_table(renamed.get(), tags[index], table.get());
     }
-    const std::string names = NameTable(family);
+    const std::string names = NameTable(whole.get(), family);
     const Blob table(hb_blob_create(names.data(), static_cast<unsigned>(names.size()),
                                     HB_MEMORY_MODE_DUPLICATE, nullptr, nullptr),
                      hb_blob_destroy);
@@ -103,10 +128,16 @@ int main(int argc, char **argv)
     const Blob bytes(hb_face_reference_blob(signs.get()), hb_blob_destroy);
     unsigned length = 0;
     const char *data = hb_blob_get_data(bytes.get(), &length);
-    std::ofstream file(argv[3], std::ios::binary);
+    // A new file, not the old one with other bytes: who remembers what is in a folder's fonts sees that it
+    // has changed.
+    const std::string scratch = std::string(argv[3]) + ".tmp";
+    std::ofstream file(scratch, std::ios::binary);
     file.write(data, length);
     file.close();
-    if (length == 0 || !file) {
+    std::error_code failed;
+    if (length > 0 && file)
+        std::filesystem::rename(scratch, argv[3], failed);
+    if (length == 0 || !file || failed) {
         std::fprintf(stderr, "quorvex-make-signs: cannot write \"%s\"\n", argv[3]);
         return 1;
     }

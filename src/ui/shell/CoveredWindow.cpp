@@ -8,7 +8,8 @@
 CoveredWindow::CoveredWindow(QWidget *window)
     : m_window(window)
 {
-    QBackingStore *image = window->isVisible() && window->windowHandle() ? window->backingStore() : nullptr;
+    const bool isShown = window->isVisible() && window->windowHandle();
+    QBackingStore *image = isShown && !window->isActiveWindow() ? window->backingStore() : nullptr;
     if (!image)
         return;
     window->installEventFilter(this);
@@ -25,7 +26,9 @@ CoveredWindow::~CoveredWindow()
 
 bool CoveredWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::Expose)
+    // Where a window that counts as exposed is uncovered, Qt asks it to paint.
+    const bool isUncovered = event->type() == QEvent::Expose || event->type() == QEvent::Paint;
+    if (event->type() == QEvent::WindowActivate || (watched->isWindowType() && isUncovered))
         ShowAgain();
     return QObject::eventFilter(watched, event);
 }

@@ -222,8 +222,11 @@ void PracticeWindow::timerEvent(QTimerEvent *event)
     }
     m_groundTimer.stop();
     QPixmapCache::clear();
-    if (parentWidget())
-        m_menu = std::make_unique<CoveredWindow>(parentWidget()->window());
+    QWidget *menu = parentWidget() ? parentWidget()->window() : nullptr;
+    if (menu && menu->updatesEnabled() && frameGeometry().contains(menu->frameGeometry())) {
+        m_menu.reset();
+        m_menu = std::make_unique<CoveredWindow>(menu);
+    }
     Public_Function::GiveBackFreeMemory();
 }
 

@@ -12,12 +12,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr auto Signs = "Quorvex Signs"_L1; ///< a family that only `Fonts` has
+
 QFont FontOfPixels(qreal pixels, bool bold)
 {
     // Liberation Sans has Arial's metrics; the others stand in for the characters that it lacks. The signs
     // are those of the Chinese font, which is large and so comes after them.
-    QFont font(
-        {u"Liberation Sans"_s, u"Arial"_s, u"Quorvex Signs"_s, u"WenQuanYi Micro Hei"_s, u"DejaVu Sans"_s});
+    QFont font({u"Liberation Sans"_s, u"Arial"_s, Signs, u"WenQuanYi Micro Hei"_s, u"DejaVu Sans"_s});
     font.setPixelSize(qMax(1, qRound(pixels)));
     font.setBold(bold);
     return font;
@@ -27,8 +28,10 @@ QFont FontOfPixels(qreal pixels, bool bold)
 
 void Public_Function::LoadFonts(bool areKnown)
 {
+    // A platform's plugin may have asked for fonts before they were read, and then Qt does not know them.
+    const bool isComplete = areKnown && QFontDatabase::hasFamily(Signs);
     for (const auto suffix : {"ttf"_L1, "ttc"_L1}) {
-        if (areKnown)
+        if (isComplete)
             break;
         for (const QString &file : ListFiles(Shared().InstallDir + u"Fonts\\"_s, suffix))
             QFontDatabase::addApplicationFont(NativePath(file));

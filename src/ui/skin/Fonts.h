@@ -5,7 +5,7 @@
 /// The fonts of the install folder, so that texts have the same widths on every machine.
 namespace Public_Function {
 
-/// Makes the fonts of `Fonts\` known, unless they are, and sets the application's font. Missing ones are
+/// Makes the fonts of `Fonts\` known, unless Qt knows them, and sets the application's font. Missing ones are
 /// replaced by what the machine has.
 void LoadFonts(bool areKnown = false);
 

@@ -64,14 +64,16 @@ QImage ReadyPictures::Picture(const QString &name, int scale) const
     const QSize size = Size(name);
     if (size.isEmpty() || scale != 1)
         return {};
+    const qint64 bytes = qint64(4) * size.width() * size.height();
+    const qint64 at = m_index.value("pictures"_L1)[name]["at"_L1].toInteger(-1);
+    if (at < HeadSize || at > m_file->size() - bytes)
+        return {};
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     if (image.isNull())
         return {};
-    Public_Function::Prefault(image.bits(), static_cast<std::size_t>(image.sizeInBytes()));
-    const qint64 at = m_index.value("pictures"_L1)[name]["at"_L1].toInteger(-1);
+    Public_Function::Prefault(image.bits(), static_cast<std::size_t>(bytes));
     const bool isRead =
-        at >= 0 && m_file->seek(at) &&
-        m_file->read(reinterpret_cast<char *>(image.bits()), image.sizeInBytes()) == image.sizeInBytes();
+        m_file->seek(at) && m_file->read(reinterpret_cast<char *>(image.bits()), bytes) == bytes;
     return isRead ? image : QImage();
 }
 

@@ -6,6 +6,7 @@
 
 #include <QFileInfo>
 #include <QStringList>
+#include <functional>
 #include <utility>
 
 /// A clock that stands still until a test moves it.
@@ -31,10 +32,13 @@ public:
         played += QFileInfo(nativePath).fileName();
         lastPath = nativePath;
         lastWaited = wait;
+        if (whenPlayed)
+            whenPlayed();
     }
 
     QStringList TakePlayed() { return std::exchange(played, {}); }
 
+    std::function<void()> whenPlayed;
     QStringList played;
     QString lastPath;
     bool lastWaited = false;

@@ -140,9 +140,13 @@ private Q_SLOTS:
         Open();
         QTest::qWait(50);
         qApp->installEventFilter(this);
+        bool wasAnswered = false;
+        m_services->sound.whenPlayed = [&] { wasAnswered = m_painted.contains(Part("PromptKey0")); };
         for (const QString &key : {u"a"_s, u"q"_s, u"s"_s}) { // the hint changes with the first two
             m_painted.clear();
             Type(key);
+            if (key == u"a"_s)
+                QVERIFY2(wasAnswered, "the sound came before the answer on the screen");
             QTest::qWait(20);
         }
         QVERIFY(m_painted.contains(Part("PromptKey0")));

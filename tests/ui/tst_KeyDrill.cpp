@@ -149,6 +149,7 @@ private Q_SLOTS:
                 QVERIFY2(wasAnswered, "the sound came before the answer on the screen");
             QTest::qWait(20);
         }
+        m_services->sound.whenPlayed = {};
         QVERIFY(m_painted.contains(Part("PromptKey0")));
         for (const auto &name :
              {"BtnClose", "labTime", "labSpeed", "labVeracity", "picProgress", "labLessonMsg"})

@@ -59,9 +59,14 @@ DrillCounts LineDrill::Counts() const
 
 void LineDrill::ShowLine()
 {
+    TakeLine();
+    ShowPlace();
+}
+
+void LineDrill::TakeLine()
+{
     PromptRTB->SetLine(m_session.Line().text);
     InputRTB->SetLine({});
-    ShowPlace();
 }
 
 void LineDrill::ShowPlace()
@@ -102,8 +107,7 @@ void LineDrill::Judge(char32_t typed)
     const int position = m_session.Position();
     const LineSession::Outcome outcome = m_session.Type(typed);
     if (outcome.step == LineSession::Step::NextLine) {
-        PromptRTB->SetLine(m_session.Line().text);
-        InputRTB->SetLine({});
+        TakeLine();
     } else {
         const TypingLine::Look look = outcome.right ? TypingLine::Look::Right : TypingLine::Look::Wrong;
         if (position < PromptRTB->Length())

@@ -48,6 +48,7 @@ protected:
     const LineSession &Session() const { return m_session; }
     /// Shows the line that the session has begun, as untyped.
     void ShowLine();
+    void TakeLine();
 
 private:
     void Judge(char32_t typed);

@@ -24,18 +24,21 @@ QFont FontOfPixels(qreal pixels, bool bold)
     return font;
 }
 
+void AddFonts()
+{
+    for (const auto suffix : {"ttf"_L1, "ttc"_L1}) {
+        for (const QString &file : Public_Function::ListFiles(Shared().InstallDir + u"Fonts\\"_s, suffix))
+            QFontDatabase::addApplicationFont(Public_Function::NativePath(file));
+    }
+}
+
 } // namespace
 
 void Public_Function::LoadFonts(bool areKnown)
 {
     // A platform's plugin may have asked for fonts before they were read, and then Qt does not know them.
-    const bool isComplete = areKnown && QFontDatabase::hasFamily(Signs);
-    for (const auto suffix : {"ttf"_L1, "ttc"_L1}) {
-        if (isComplete)
-            break;
-        for (const QString &file : ListFiles(Shared().InstallDir + u"Fonts\\"_s, suffix))
-            QFontDatabase::addApplicationFont(NativePath(file));
-    }
+    if (!areKnown || !QFontDatabase::hasFamily(Signs))
+        AddFonts();
     QGuiApplication::setFont(InterfaceFont(9));
 }
 
